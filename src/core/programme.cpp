@@ -1,0 +1,166 @@
+#include "core/programme.h"
+
+#include <algorithm>
+#include <new>
+
+#include "core/errors.h"
+#include "core/text.h"
+
+namespace vorelio {
+
+Programme::Programme(const Platform& platform) : plateforme(platform), reglages(platform.settings, contexte) {}
+
+Programme::~Programme() {
+  for (const auto& forme : formes_) plateforme.windows.Destroyed(*forme);
+}
+
+// --- Files ----------------------------------------------------------------------------------------------------------
+
+std::string Programme::Chemin(std::string_view fichier) const {
+  return std::string(Chemin_Programme()).append(1, plateforme.separator).append(fichier);
+}
+
+std::string Programme::Chemin_Station(std::string_view suite) const {
+  return Chemin(contexte.Station_Indicatif).append(suite);
+}
+
+std::string Programme::Chemin_Log(std::string_view station) const { return Chemin(station) + ".log"; }
+
+// --- Boxes ----------------------------------------------------------------------------------------------------------
+
+// A box waits for the user, and while it waits the program can be ended.
+void Programme::Message(const std::string& texte) const {
+  plateforme.messages.Show(texte);
+  Quitte_Si_Termine();
+}
+
+bool Programme::Question(const std::string& texte) const {
+  const bool oui = plateforme.messages.Ask(texte, Buttons::YesNo, Icon::Question);
+  Quitte_Si_Termine();
+  return oui;
+}
+
+bool Programme::Avertissement(const std::string& texte) const {
+  const bool oui = plateforme.messages.Ask(texte, Buttons::OkCancel, Icon::Critical);
+  Quitte_Si_Termine();
+  return oui;
+}
+
+// --- Windows --------------------------------------------------------------------------------------------------------
+
+Form* Programme::Cherche_Fenetre(std::string_view nom) const {
+  for (const auto& forme : formes_)
+    if (forme->Name() == nom) return forme.get();
+  return nullptr;
+}
+
+std::vector<Form*> Programme::Fenetres() const {
+  std::vector<Form*> fenetres;
+  for (const auto& forme : formes_) fenetres.push_back(forme.get());
+  return fenetres;
+}
+
+Form* Programme::Fenetre_Modale() const {
+  // A window opened from a modal one stands above it: the last one locks.
+  for (auto forme = formes_.rbegin(); forme != formes_.rend(); ++forme)
+    if ((*forme)->modal_ && (*forme)->visible_) return forme->get();
+  return nullptr;
+}
+
+void Programme::Charge(std::unique_ptr<Form> forme) {
+  Form& fenetre = *forme;
+  formes_.push_back(std::move(forme));
+  plateforme.windows.Created(fenetre);
+  Evenement([&] { fenetre.Form_Load(); });
+}
+
+void Programme::Decharge(Form& forme) {
+  const auto place =
+      std::find_if(formes_.begin(), formes_.end(), [&](const auto& candidate) { return candidate.get() == &forme; });
+  if (place == formes_.end()) return;
+  plateforme.windows.Destroyed(forme);
+  // The window's own procedure may still be running: it goes when nothing runs any more.
+  quittees_.push_back(std::move(*place));
+  formes_.erase(place);
+  if (forme.Main()) {
+    Termine();
+    throw Fin_Programme{};
+  }
+  if (focus_ && &focus_->Parent() == &forme) {
+    focus_ = nullptr;
+    for (const auto& restante : formes_)
+      if (restante->Main()) focus_ = restante->active_;
+  }
+}
+
+void Programme::Ramasse() { quittees_.clear(); }
+
+void Programme::Note_Focus(Control& controle) {
+  focus_ = &controle;
+  controle.Parent().active_ = &controle;
+}
+
+void Programme::Prend_Focus(Control& controle) {
+  Note_Focus(controle);
+  plateforme.windows.Focus(controle);
+}
+
+// --- Events ---------------------------------------------------------------------------------------------------------
+
+void Programme::Recoit(const std::function<void()>& action) {
+  if (termine_) return;
+  ++profondeur_;
+  try {
+    Evenement(action);
+  } catch (const Fin_Programme&) {
+    // The program has ended; whoever runs the events looks at Termine_Deja().
+  }
+  if (--profondeur_ == 0) Ramasse();
+}
+
+void Programme::Evenement(const std::function<void()>& procedure) {
+  try {
+    procedure();
+  } catch (const Erreur_Execution& erreur) {
+    Fin_Sur_Erreur(erreur.Numero(), erreur.Texte());
+    throw Fin_Programme{};
+  } catch (const std::bad_alloc&) {
+    Fin_Sur_Erreur(7, "Erreur d'exécution '7' : Mémoire insuffisante"_t);
+    throw Fin_Programme{};
+  }
+}
+
+void Programme::Traite_Evenements() {
+  plateforme.windows.ServeEvents();
+  Quitte_Si_Termine();
+}
+
+void Programme::Attend_La_Fin() {
+  for (;;) {
+    Quitte_Si_Termine();
+    plateforme.windows.WaitForEvent();
+  }
+}
+
+void Programme::Quitte_Si_Termine() const {
+  if (termine_) throw Fin_Programme{};
+}
+
+void Programme::Fin_Sur_Erreur(int numero, const std::string& texte) {
+  if (termine_) return;
+  // No event may reach the logic any more while the box waits.
+  termine_ = true;
+  erreur_fatale_ = numero;
+  plateforme.messages.Fatal(numero, texte);
+  Termine();
+}
+
+void Programme::Termine() {
+  termine_ = true;
+  for (const auto& forme : formes_) {
+    forme->visible_ = false;
+    plateforme.windows.Changed(*forme);
+  }
+}
+
+}  // namespace vorelio

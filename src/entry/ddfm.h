@@ -1,0 +1,143 @@
+#pragma once
+
+#include "core/programme.h"
+#include "platform/controls.h"
+
+namespace vorelio {
+
+/// The main window: one entry chain driven by Enter, the department grid, the log underneath, and the menus. Its
+/// definitions stand in chapters: ddfm_start.cpp, ddfm_callsign_chain.cpp, ddfm_activation.cpp, ddfm_date_reports.cpp,
+/// ddfm_save.cpp, ddfm_review.cpp, ddfm_grid.cpp, ddfm_menus.cpp.
+class DDFM : public Form {
+ public:
+  explicit DDFM(Programme& programme);
+
+  bool Main() const override { return true; }
+  void Form_Load() override;
+
+  // --- Station and clocks ---
+  Frame Frame5{*this, "Frame5"};              ///< "Vorelio de " and the callsign.
+  Label I_Station{*this, "I_Station"};        ///< Callsign with "/".
+  Label L_Station{*this, "L_Station"};        ///< Locator.
+  Label Label15{*this, "Label15"};            ///< "Date automatique" or "Date manuelle".
+  Label Label33{*this, "Label33"};            ///< Date, UTC or local by the option.
+  Label Label34{*this, "Label34"};            ///< Local time.
+  Label Label37{*this, "Label37"};            ///< UTC time.
+  Timer Timer1{*this, "Timer1", 1000};
+
+  // --- Entry form, in the order of the chain ---
+  Frame Frame4{*this, "Frame4"};              ///< Number of the contact.
+  ComboBox Bande_A;
+  TextField Indicatif_A{*this, "Indicatif_A"};
+  Label Label5{*this, "Label5", "Indicatif"};  ///< "Contacté le ...", "Nouvel indicatif".
+  TextField Depart_A{*this, "Depart_A"};
+  TextField Locator_A{*this, "Locator_A"};
+  ComboBox Mode_A;
+  ComboBox Activ_A;
+  TextField Date_A{*this, "Date_A"};
+  TextField Debut_A{*this, "Debut_A"};
+  TextField Fin_A{*this, "Fin_A"};
+  TextField RSTE_A{*this, "RSTE_A", "59"};
+  TextField RSTR_A{*this, "RSTR_A", "59"};
+  TextField Prenom_A{*this, "Prenom_A"};
+  TextField QTH_A{*this, "QTH_A"};
+  TextField Remarques_A{*this, "Remarques_A"};
+  TextField Distance_A{*this, "Distance_A"};
+  TextField Azimut_A{*this, "Azimut_A"};
+  TextField QSLE_A{*this, "QSLE_A"};
+  TextField QSLR_A{*this, "QSLR_A"};
+  Button Enregistrer{*this, "Enregistrer", "QSO Suivant"};
+  Button Annuler{*this, "Annuler", "Annuler Saisie"};
+  Button Editer{*this, "Editer", "Editer QSO"};
+  Button Effacer{*this, "Effacer", "Effacer QSO"};
+  Button Recherche{*this, "Recherche", "Chercher QSO"};
+  Button Gestion_QSL{*this, "Gestion_QSL", "Gestion QSL"};
+  Button Exporter{*this, "Exporter", "Exporter QSO"};
+  Label NB_Debug{*this, "NB_Debug"};          ///< The step that a save has reached.
+
+  // --- Grid ---
+  Frame Frame3;
+  ControlArray<TextField> Dpt{*this, "Dpt", 0, 100};
+  ControlArray<OptionButton> Option1;         ///< 1: departments, 0: squares.
+  ComboBox Bande_DDFM{*this, "Bande_DDFM", ComboBox::Kind::Choice};
+  ComboBox Carre_DDFM{*this, "Carre_DDFM", ComboBox::Kind::Choice, "JN"};
+  Label Label27;                              ///< Legend: worked.
+  Label Label26;                              ///< Legend: QSL sent.
+  Label Label30;                              ///< Legend: QSL received.
+  Label Label1;                               ///< Legend: confirmed.
+
+  // --- Log ---
+  ListBox Liste_QSO{*this, "Liste_QSO", ListBox::Kind::Sorted};
+  ListBox Liste_QSO_Bis{*this, "Liste_QSO_Bis", ListBox::Kind::Sorted};  ///< Working copy, hidden.
+
+  // --- Menus ---
+  MenuItem Mnu_Indicatif, Mnu_Val_Sauve, Mnu_Restauration, Mnu_Restau_Activite, Mnu_Quitter;
+  MenuItem Mnu_Auto_Oui, Mnu_Auto_Non, Mnu_UTC_Oui, Mnu_UTC_Non, Mnu_Sep_Oui, Mnu_Sep_Non, Mnu_Exp_Oui, Mnu_Exp_Non;
+  MenuItem Mnu_Nomenclature, Mnu_Prefixe, Mnu_Ajout_Activite;
+  MenuItem Mnu_Stat_Prefixe;
+  MenuItem Mnu_Historique, Mnu_A_Propos;
+
+  // --- What other windows use ---
+
+  /// Shows the station of the context in `I_Station`, `L_Station` and `Frame5`.
+  void Affiche_Station();
+  /// Fills `Activ_A` with the activities of the station (`defaut` where one has no name) and selects the saved one.
+  void Charge_Activites(int nombre, std::string_view defaut);
+  /// Checks the date and clock options of the station.
+  void Montre_Options();
+  /// Paints the departments of `Bande_Grille`; with the caption, `Frame3` tells their count.
+  void Peint_Departements();
+  void Legende_Departements();
+
+ private:
+  // Start-up.
+  void Relie_Evenements();
+  void Timer1_Timer();
+
+  // Callsign chain.
+  void Bande_A_Click();
+  void Bande_A_KeyPress(int& touche);
+  void Indicatif_A_KeyPress(int& touche);
+  void Depart_A_KeyPress(int& touche);
+  void Locator_A_KeyPress(int& touche);
+  void Mode_A_KeyPress(int& touche);
+  void Cherche_Indicatif();
+  void Calcule_Distance_Azimut();
+
+  // Activation.
+  void Activ_A_KeyPress(int& touche);
+  bool Reference_Bonne();
+
+  // Date, times, reports, texts.
+  void Date_A_KeyPress(int& touche);
+  void Debut_A_KeyPress(int& touche);
+  void Fin_A_KeyPress(int& touche);
+  void RSTE_A_KeyPress(int& touche);
+  void RSTR_A_KeyPress(int& touche);
+  void Prenom_A_KeyPress(int& touche);
+  void QTH_A_KeyPress(int& touche);
+  void Remarques_A_KeyPress(int& touche);
+
+  // Save.
+  void Enregistrer_Click();
+  bool Enregistre_Nouveau();
+  bool Enregistre_Edition();
+  void Prepare_Suivant();
+
+  // Review, edit, delete.
+  void Liste_QSO_Click();
+  void Liste_QSO_DblClick();
+  void Editer_Click();
+  void Effacer_Click();
+  void Annuler_Click();
+
+  // Grid.
+  void Option1_Click();
+  void Bande_DDFM_Click();
+  void Carre_DDFM_Click();
+
+  // Menus.
+  void Mnu_Restauration_Click();
+};
+
+}  // namespace vorelio

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/programme.h"
+
+/// Locators, and the great circle between the centres of two sub-squares on a sphere of 40076.59 km circumference. The
+/// constants are those of earlier versions, and stay: distances in old logs were computed with them.
+namespace vorelio::Sous_Programmes {
+
+inline constexpr double Pi_Programme = 3.141592654;  ///< Ten digits on purpose.
+inline constexpr double Circonference_Terre = 40076.59;  ///< Kilometres.
+inline constexpr double Rayon_Terre = Circonference_Terre / Pi_Programme / 2;
+inline constexpr double Deg_Vers_Rad = Pi_Programme / 180;
+inline constexpr double Rad_Vers_Deg = 180 / Pi_Programme;
+inline constexpr double Demi_Pi = Pi_Programme / 2;
+
+/// Sets `erreur` to 1 if one of the six characters is wrong (two letters A to Z, two digits, two letters A to Z),
+/// else leaves it. A text shorter than six is run-time error 5.
+void Verifie_Locator(std::string_view locator, int& erreur);
+
+/// Place of a letter in the alphabet from 0, either case; a character below "A" is run-time error 6.
+int Indice_Lettre(char caractere);
+
+/// Of the centre of the sub-square, in radians.
+double Longitude(std::string_view locator);
+double Latitude(std::string_view locator);
+
+/// -arctan(x / sqrt(1 - x²)); with `Demi_Pi` added, the arccosine of x. |x| > 1 is run-time error 5, 1 is error 11.
+double Arc_Sinus_Negatif(double x);
+
+/// Sets `Distance_Texte`, whole kilometres. `locator_2` is cut to its trimmed first six characters; shorter than six,
+/// nothing else happens.
+void Calcule_Distance(Programme& programme, std::string_view locator_1, std::string& locator_2);
+
+/// Sets `Azimut`, whole degrees (0 to 360) from `locator_1` to `locator_2`.
+void Calcule_Azimut(Programme& programme, std::string_view locator_1, std::string_view locator_2);
+
+}  // namespace vorelio::Sous_Programmes

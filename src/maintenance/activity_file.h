@@ -1,0 +1,11 @@
+#pragma once
+
+#include "core/programme.h"
+
+namespace vorelio::Sous_Programmes {
+
+/// Writes `<station>_Activite.txt` from the settings, one activity a line, and sets `Nb_Activite` (2 if the settings
+/// don't tell).
+void Ecrit_Fichier_Activites(Programme& programme);
+
+}  // namespace vorelio::Sous_Programmes

@@ -1,0 +1,374 @@
+#include "platform/controls.h"
+
+#include <algorithm>
+
+#include "core/errors.h"
+#include "core/programme.h"
+#include "core/text.h"
+
+namespace vorelio {
+
+void Indice_Refuse() { throw Erreur_Execution(Erreur::Indice_Hors_Limites); }
+
+// --- Control --------------------------------------------------------------------------------------------------------
+
+Control::Control(Form& form, std::string_view name) : form_(form), name_(name) { form.controls_.push_back(this); }
+
+void Control::SetEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  Notify(Property::Enabled);
+}
+
+void Control::SetVisible(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  Notify(Property::Visible);
+}
+
+void Control::SetColour(Couleur colour) {
+  if (colour_ == colour) return;
+  colour_ = colour;
+  Notify(Property::Colour);
+}
+
+void Control::SetFocus() {
+  if (enabled_ && visible_) form_.programme().Prend_Focus(*this);
+}
+
+void Control::UserFocus() { form_.programme().Note_Focus(*this); }
+
+bool Control::Reachable() const {
+  const Form* modal = form_.programme().Fenetre_Modale();
+  return enabled_ && visible_ && form_.Visible() && !form_.Unloaded() && (!modal || modal == &form_);
+}
+
+const std::string& Control::Words() const {
+  static const std::string none;
+  return none;
+}
+
+void Control::Raise(const std::function<void()>& event) const {
+  if (event) form_.programme().Evenement(event);
+}
+
+bool Control::RaiseKey(const KeyHandler& handler, int& key) const {
+  if (handler) Raise([&] { handler(key); });
+  return key != 0;
+}
+
+// --- TextField ------------------------------------------------------------------------------------------------------
+
+TextField::TextField(Form& form, std::string_view name, std::string_view text, bool multi_line)
+    : Control(form, name), text_(text), selection_(static_cast<int>(text.size())), multi_line_(multi_line) {}
+
+void TextField::SetText(std::string_view text) {
+  text_ = text;
+  caret_ = 0;
+  selection_ = static_cast<int>(text_.size());
+  Notify(Property::Text);
+}
+
+void TextField::SetCaret(int position, int length) {
+  const int size = static_cast<int>(text_.size());
+  caret_ = std::clamp(position, 0, size);
+  selection_ = std::clamp(length, 0, size - caret_);
+  Notify(Property::Caret);
+}
+
+void TextField::ReplaceSelection(std::string_view text) {
+  text_.replace(static_cast<std::size_t>(caret_), static_cast<std::size_t>(selection_), text);
+  caret_ += static_cast<int>(text.size());
+  selection_ = 0;
+  Notify(Property::Text);
+}
+
+void TextField::UserKey(int key) {
+  if (!Reachable()) return;
+  SetFocus();
+  if (!RaiseKey(KeyPress, key) || read_only_) return;
+  if (key == kEntree && multi_line_) ReplaceSelection(kFin_De_Ligne);
+  if (key >= ' ') ReplaceSelection(std::string(1, static_cast<char>(key)));
+}
+
+void TextField::UserText(std::string_view text, int caret) {
+  if (!Reachable()) return;
+  text_ = text;
+  SetCaret(caret);
+  Notify(Property::Text);
+}
+
+void TextField::UserCaret(int position, int length) {
+  if (Reachable()) SetCaret(position, length);
+}
+
+void TextField::UserDblClick() {
+  if (!Reachable()) return;
+  SetFocus();
+  Raise(DblClick);
+}
+
+// --- Lists ----------------------------------------------------------------------------------------------------------
+
+const std::string& ListControl::Item(int index) const {
+  static const std::string none;
+  return index >= 0 && index < Count() ? items_[static_cast<std::size_t>(index)] : none;
+}
+
+void ListControl::SetListIndex(int index) {
+  if (index < -1 || index >= Count()) Indice_Refuse();
+  TakeIndex(index);
+  Raise(Click);
+}
+
+void ListControl::TakeIndex(int index) {
+  index_ = index;
+  Notify(Property::ListIndex);
+}
+
+void ListControl::ClearItems() {
+  items_.clear();
+  index_ = -1;
+  Notify(Property::Items);
+}
+
+void ListControl::UserSelect(int index) {
+  if (!Reachable() || index < 0 || index >= Count()) return;
+  SetFocus();
+  SetListIndex(index);
+}
+
+void ListControl::InsertAt(int index, std::string_view text) {
+  items_.emplace(items_.begin() + index, text);
+  if (index <= index_) ++index_;
+  Notify(Property::Items);
+}
+
+void ListControl::EraseAt(int index) {
+  items_.erase(items_.begin() + index);
+  if (index == index_) index_ = -1;
+  if (index < index_) --index_;
+  Notify(Property::Items);
+}
+
+ListBox::ListBox(Form& form, std::string_view name, Kind kind) : ListControl(form, name), kind_(kind) {}
+
+void ListBox::AddItem(std::string_view text) {
+  int place = Count();
+  if (kind_ == Kind::Sorted && place > 0 && Items().back() > text)
+    place = static_cast<int>(std::upper_bound(Items().begin(), Items().end(), text) - Items().begin());
+  if (kind_ == Kind::Checked) checked_.insert(checked_.begin() + place, false);
+  InsertAt(place, text);
+}
+
+void ListBox::RemoveItem(int index) {
+  if (index < 0 || index >= Count()) throw Erreur_Execution(Erreur::Argument_Invalide);
+  if (kind_ == Kind::Checked) checked_.erase(checked_.begin() + index);
+  EraseAt(index);
+}
+
+void ListBox::ClearItems() {
+  checked_.clear();
+  ListControl::ClearItems();
+}
+
+void ListBox::ShowEnd() {
+  TakeIndex(-1);
+  Notify(Property::ScrollToEnd);
+}
+
+bool ListBox::Checked(int index) const {
+  return index >= 0 && index < static_cast<int>(checked_.size()) && checked_[static_cast<std::size_t>(index)];
+}
+
+void ListBox::UserTick(int index) {
+  if (!Reachable() || index < 0 || index >= static_cast<int>(checked_.size())) return;
+  checked_[static_cast<std::size_t>(index)].flip();
+  Notify(Property::Checked);
+}
+
+void ListBox::UserDblClick(int index) {
+  if (!Reachable()) return;
+  SetFocus();
+  if (index >= 0 && index < Count()) SetListIndex(index);
+  Raise(DblClick);
+}
+
+void ListBox::UserKey(int key) {
+  if (!Reachable()) return;
+  SetFocus();
+  RaiseKey(KeyPress, key);
+}
+
+ComboBox::ComboBox(Form& form, std::string_view name, Kind kind, std::string_view text)
+    : ListControl(form, name), kind_(kind), text_(text) {}
+
+void ComboBox::ClearItems() {
+  text_.clear();
+  ListControl::ClearItems();
+}
+
+void ComboBox::TakeIndex(int index) {
+  text_ = Item(index);
+  replace_ = true;
+  ListControl::TakeIndex(index);
+}
+
+void ComboBox::SetText(std::string_view text) {
+  TakeIndex(-1);
+  text_ = text;
+  Notify(Property::Text);
+}
+
+void ComboBox::UserKey(int key) {
+  if (!Reachable()) return;
+  SetFocus();
+  if (!RaiseKey(KeyPress, key) || key < ' ') return;
+  if (kind_ == Kind::Editable) {
+    UserText((replace_ ? std::string{} : text_) + static_cast<char>(key));
+    return;
+  }
+  typed_ = Majuscules(typed_ + static_cast<char>(key));
+  for (int i = 0; i < Count(); ++i)
+    if (Majuscules(Item(i)).starts_with(typed_)) return SetListIndex(i);
+}
+
+void ComboBox::UserText(std::string_view text) {
+  if (!Reachable()) return;
+  SetText(text);
+  replace_ = false;
+}
+
+// --- Controls with a caption ----------------------------------------------------------------------------------------
+
+Captioned::Captioned(Form& form, std::string_view name, std::string_view caption)
+    : Control(form, name), caption_(caption) {
+  SetColour(kFace_Bouton);
+}
+
+void Captioned::SetCaption(std::string_view caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  Notify(Property::Caption);
+}
+
+void Button::UserClick() {
+  if (!Reachable()) return;
+  SetFocus();
+  Raise(Click);
+}
+
+void CheckBox::SetChecked(bool checked) {
+  if (checked_ == checked) return;
+  checked_ = checked;
+  Notify(Property::Checked);
+  Raise(Click);
+}
+
+void CheckBox::UserClick() {
+  if (!Reachable()) return;
+  SetFocus();
+  SetChecked(!checked_);
+}
+
+OptionButton::OptionButton(Form& form, std::string_view name, std::string_view caption, std::string_view group,
+                           bool set)
+    : Captioned(form, name, caption), group_(group), set_(set) {}
+
+void OptionButton::SetOn() {
+  if (set_) return;
+  for (Control* control : Parent().Controls()) {
+    auto* other = dynamic_cast<OptionButton*>(control);
+    if (!other || !other->set_ || other->group_ != group_) continue;
+    other->set_ = false;
+    other->Notify(Property::Checked);
+  }
+  set_ = true;
+  Notify(Property::Checked);
+  Raise(Click);
+}
+
+void OptionButton::UserClick() {
+  if (!Reachable()) return;
+  SetFocus();
+  SetOn();
+}
+
+MenuItem::MenuItem(Form& form, std::string_view name, std::string_view caption, bool checked)
+    : Captioned(form, name, caption), checked_(checked) {}
+
+void MenuItem::SetChecked(bool checked) {
+  if (checked_ == checked) return;
+  checked_ = checked;
+  Notify(Property::Checked);
+}
+
+void MenuItem::UserClick() {
+  if (Reachable()) Raise(Click);
+}
+
+Timer::Timer(Form& form, std::string_view name, int interval_ms, bool enabled)
+    : Control(form, name), interval_(interval_ms) {
+  SetEnabled(enabled);
+}
+
+void Timer::Fire() {
+  if (Enabled() && !Parent().Unloaded()) Raise(Tick);
+}
+
+// --- Form -----------------------------------------------------------------------------------------------------------
+
+Form::Form(Programme& programme, std::string_view name, std::string_view title)
+    : programme_(programme), name_(name), title_(title) {}
+
+WindowService& Form::Screen() const { return programme_.plateforme.windows; }
+
+void Form::SetTitle(std::string_view title) {
+  title_ = title;
+  Screen().Changed(*this);
+}
+
+void Form::Show() {
+  if (unloaded_) return;
+  visible_ = true;
+  Screen().Changed(*this);
+}
+
+void Form::ShowModal() {
+  modal_ = true;
+  Show();
+  Screen().RunModal(*this);
+  modal_ = false;
+  programme_.Quitte_Si_Termine();
+}
+
+void Form::Hide() {
+  visible_ = false;
+  Screen().Changed(*this);
+}
+
+void Form::Centre() { Screen().Centre(*this); }
+
+void Form::Unload() {
+  if (unloading_) return;
+  unloading_ = true;
+  programme_.Evenement([this] { Form_Unload(); });
+  visible_ = false;
+  unloaded_ = true;
+  programme_.Decharge(*this);
+}
+
+void Form::UserClose() {
+  const Form* modal = programme_.Fenetre_Modale();
+  // The main window can always be closed: the program then ends, whatever other window is open.
+  if (unloaded_ || !visible_ || (modal && modal != this && !Main())) return;
+  Unload();
+}
+
+Control* Form::Find(std::string_view name) const {
+  for (Control* control : controls_)
+    if (control->Name() == name) return control;
+  return nullptr;
+}
+
+}  // namespace vorelio
