@@ -1,5 +1,6 @@
 #include "core/settings.h"
 
+#include "core/errors.h"
 #include "core/text.h"
 
 namespace vorelio {
@@ -29,6 +30,14 @@ void Reglages::Ecrit_Station(std::string_view cle, std::string_view valeur) cons
 
 int Reglages::Nombre_Station(std::string_view cle, int defaut) const {
   return Nombre_Entier(Station(cle, std::to_string(defaut)));
+}
+
+int Reglages::Nombre_Activites(int defaut) const {
+  // A mistyped count must not fill the memory with rows.
+  constexpr int kLignes_Au_Plus = 32767;
+  const int nombre = Nombre_Station("NB Activite", defaut);
+  if (nombre > kLignes_Au_Plus) throw Erreur_Execution(Erreur::Depassement, "NB Activite");
+  return nombre;
 }
 
 bool Reglages::Booleen_Station(std::string_view cle, bool defaut) const {

@@ -22,6 +22,8 @@ class Reglages {
 
   /// A whole number of the current station; text that is none is run-time error 13.
   int Nombre_Station(std::string_view cle, int defaut) const;
+  /// "NB Activite"; more than a list can hold is run-time error 6.
+  int Nombre_Activites(int defaut) const;
   /// A Boolean of the current station; an unknown text is not true.
   bool Booleen_Station(std::string_view cle, bool defaut) const;
 

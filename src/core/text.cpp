@@ -159,6 +159,8 @@ std::string Texte_Nombre(double nombre) {
 
 std::string Texte_Nombre_Blanc(double nombre) { return (nombre < 0 ? "" : " ") + Texte_Nombre(nombre); }
 
+std::string Deux_Chiffres(int nombre) { return (nombre < 10 ? "0" : "") + std::to_string(nombre); }
+
 std::string Texte_Booleen(bool valeur) { return valeur ? "True" : "False"; }
 
 bool Booleen(std::string_view texte) { return Majuscules(Rogne(texte)) == "TRUE"; }

@@ -148,6 +148,9 @@ std::string Texte_Nombre(double nombre);
 /// A number as text, with a blank in front where the sign would stand.
 std::string Texte_Nombre_Blanc(double nombre);
 
+/// A number from 0 to 99 as two digits.
+std::string Deux_Chiffres(int nombre);
+
 /// The text of a Boolean in the settings, "True" or "False"; an unknown text is not true.
 std::string Texte_Booleen(bool valeur);
 bool Booleen(std::string_view texte);

@@ -1,9 +1,22 @@
 #pragma once
 
+#include <string_view>
+#include <vector>
+
+#include "core/log_line.h"
 #include "core/programme.h"
 #include "platform/controls.h"
 
 namespace vorelio {
+
+/// Cells of the grid by tally code.
+inline constexpr Couleur kDpt_Contacte = 0xC0C0FF;
+inline constexpr Couleur kDpt_QSL_Envoyee = 0x00FFFF;
+inline constexpr Couleur kDpt_QSL_Recue = 0xFFFF80;
+inline constexpr Couleur kDpt_Confirme = 0x80FF80;
+
+/// Corsica in the operator's form: "96" and "97" become "2a" and "2b", all else stays.
+std::string Forme_Affichee(const std::string& departement);
 
 /// The main window: one entry chain driven by Enter, the department grid, the log underneath, and the menus. Its
 /// definitions stand in chapters: ddfm_start.cpp, ddfm_callsign_chain.cpp, ddfm_activation.cpp, ddfm_date_reports.cpp,
@@ -81,18 +94,29 @@ class DDFM : public Form {
 
   /// Shows the station of the context in `I_Station`, `L_Station` and `Frame5`.
   void Affiche_Station();
-  /// Fills `Activ_A` with the activities of the station (`defaut` where one has no name) and selects the saved one.
-  void Charge_Activites(int nombre, std::string_view defaut);
+  /// Selects the saved band and mode of the station.
+  void Charge_Bande_Mode();
+  /// Fills `Activ_A` with the activities of the station and selects the saved one. The defaults are those of an absent
+  /// count and an absent name.
+  void Charge_Activites(int defaut_nombre, std::string_view defaut_nom = "err1");
   /// Checks the date and clock options of the station.
   void Montre_Options();
-  /// Paints the departments of `Bande_Grille`; with the caption, `Frame3` tells their count.
+  /// Paints the departments of `Bande_Grille`, and tells their count in `Frame3`.
   void Peint_Departements();
+  /// Tells the count of departments in `Frame3`.
   void Legende_Departements();
 
  private:
   // Start-up.
   void Relie_Evenements();
+  void Relie_Menus();
   void Timer1_Timer();
+  void Choisit_Activite();
+  /// The fields that are locked between two contacts.
+  std::vector<Control*> Champs_De_La_Chaine();
+  void Verrouille_Champs();
+  /// One step of the entry chain: from a field that is done to the next one.
+  static void Avance(Control& passe, Control& suivant);
 
   // Callsign chain.
   void Bande_A_Click();
@@ -103,10 +127,13 @@ class DDFM : public Form {
   void Mode_A_KeyPress(int& touche);
   void Cherche_Indicatif();
   void Calcule_Distance_Azimut();
+  /// True, with the message, if `champ` is longer than `limite`.
+  bool Trop_Long(const Control& champ, std::size_t limite, const std::string& message);
 
   // Activation.
   void Activ_A_KeyPress(int& touche);
   bool Reference_Bonne();
+  void Date_Et_Heure_Du_Moment();
 
   // Date, times, reports, texts.
   void Date_A_KeyPress(int& touche);
@@ -117,11 +144,17 @@ class DDFM : public Form {
   void Prenom_A_KeyPress(int& touche);
   void QTH_A_KeyPress(int& touche);
   void Remarques_A_KeyPress(int& touche);
+  bool Heure_Refusee(const TextField& champ);
+  bool Acceptee(int touche) const;
+  static void Separe(TextField& champ, std::string_view separateur);
 
   // Save.
   void Enregistrer_Click();
-  bool Enregistre_Nouveau();
+  void Enregistre_Nouveau();
+  /// False if the form stays in edit mode.
   bool Enregistre_Edition();
+  void Question_Repertoire();
+  Champs_QSO Champs_Saisis() const;
   void Prepare_Suivant();
 
   // Review, edit, delete.
@@ -130,13 +163,20 @@ class DDFM : public Form {
   void Editer_Click();
   void Effacer_Click();
   void Annuler_Click();
+  bool Rien_De_Choisi();
+  void Montre_Ligne();
+  void Montre_QSL();
 
   // Grid.
+  void Grille_Departements();
+  void Grille_Carres();
+  bool Bande_Sans_Carres();
   void Option1_Click();
   void Bande_DDFM_Click();
   void Carre_DDFM_Click();
 
   // Menus.
+  void Mnu_Date_Automatique(bool automatique);
   void Mnu_Restauration_Click();
 };
 

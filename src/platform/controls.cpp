@@ -215,7 +215,8 @@ void ComboBox::TakeIndex(int index) {
 }
 
 void ComboBox::SetText(std::string_view text) {
-  TakeIndex(-1);
+  const auto row = kind_ == Kind::Choice ? std::find(Items().begin(), Items().end(), text) : Items().end();
+  TakeIndex(row == Items().end() ? -1 : static_cast<int>(row - Items().begin()));
   text_ = text;
   Notify(Property::Text);
 }

@@ -227,7 +227,7 @@ class ComboBox : public ListControl {
   void ClearItems() override;
 
   const std::string& Text() const { return text_; }
-  /// Fires nothing, and leaves no row selected.
+  /// Fires nothing. In a choice box the row of that text is then the selected one; else none is.
   void SetText(std::string_view text);
   const std::string& Words() const override { return text_; }
 

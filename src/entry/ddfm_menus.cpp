@@ -1,0 +1,68 @@
+#include "core/log_file.h"
+#include "core/station_form.h"
+#include "core/text.h"
+#include "entry/ddfm.h"
+#include "maintenance/add_activity_window.h"
+#include "maintenance/backup.h"
+#include "maintenance/backup_settings_window.h"
+#include "maintenance/restore_activities_window.h"
+#include "tallies/add_prefix_window.h"
+#include "tallies/directory_window.h"
+#include "tallies/prefix_statistics_window.h"
+
+namespace vorelio {
+
+using namespace Sous_Programmes;
+
+void DDFM::Relie_Menus() {
+  // A pair of entries of which the checked one is the setting's value.
+  const auto option = [this](MenuItem& oui, MenuItem& non, const char* cle) {
+    const auto choix = [this, &oui, &non, cle](bool valeur) {
+      oui.SetChecked(valeur);
+      non.SetChecked(!valeur);
+      programme_.reglages.Ecrit_Station(cle, Texte_Booleen(valeur));
+    };
+    oui.Click = [choix] { choix(true); };
+    non.Click = [choix] { choix(false); };
+  };
+  option(Mnu_UTC_Oui, Mnu_UTC_Non, "Heure UTC");
+  option(Mnu_Sep_Oui, Mnu_Sep_Non, "Separateur");
+  Mnu_Auto_Oui.Click = [this] { Mnu_Date_Automatique(true); };
+  Mnu_Auto_Non.Click = [this] { Mnu_Date_Automatique(false); };
+
+  Mnu_Indicatif.Click = [this] { programme_.Fenetre<Station>().Show(); };
+  Mnu_Val_Sauve.Click = [this] { programme_.Fenetre<Delta_QSO>().Show(); };
+  Mnu_Restauration.Click = [this] { Mnu_Restauration_Click(); };
+  Mnu_Restau_Activite.Click = [this] { programme_.Fenetre<Restoration_Activite>().Show(); };
+  Mnu_Quitter.Click = [this] { Unload(); };
+  Mnu_Nomenclature.Click = [this] { programme_.Fenetre<Fichier_Nomenclature>().Show(); };
+  Mnu_Prefixe.Click = [this] { programme_.Fenetre<Ajout_Prefixe>().Show(); };
+  Mnu_Ajout_Activite.Click = [this] { programme_.Fenetre<Ajout_Activite>().Show(); };
+  Mnu_Stat_Prefixe.Click = [this] { programme_.Fenetre<Statistique_Prefixe>().Show(); };
+  Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
+  Mnu_A_Propos.Click = [this] {
+    programme_.Message(std::string("Vorelio\r\n   revision ") + Revision_Programme +
+                       "\r\n\r\nUn carnet de trafic pour les radioamateurs français, par F4VRL"_t);
+  };
+}
+
+void DDFM::Mnu_Date_Automatique(bool automatique) {
+  Mnu_Auto_Oui.SetChecked(automatique);
+  Mnu_Auto_Non.SetChecked(!automatique);
+  Label15.SetCaption(automatique ? "Date automatique" : "Date manuelle");
+  programme_.reglages.Ecrit_Station("Date Automatique", Texte_Booleen(automatique));
+  if (!automatique) return;
+  Date_A.Clear();
+  Remarques_A.Clear();
+}
+
+void DDFM::Mnu_Restauration_Click() {
+  if (!programme_.Avertissement("   !!! ATTENTION !!! Tout les fichiers vont etre effacé\r\n"
+                                "et remplacé par ceux de la derniere sauvegarde, Continuer ?"_t))
+    return;
+  Restaure_Sauvegarde(programme_);
+  programme_.Message("Les fichiers :\r\n\r\nIndicatif.log\r\nDepartement.txt\r\nLocator.txt\r\nPrefixe.txt\r\nSont restaurés"_t);
+  Charge_Log(programme_, programme_.contexte.Station_Indicatif);
+}
+
+}  // namespace vorelio
