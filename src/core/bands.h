@@ -29,6 +29,9 @@ constexpr int Indice_Bande(std::string_view bande) {
   return -1;
 }
 
+/// The same, whatever the case: for bands read back from a log.
+int Indice_Bande_Lue(std::string_view bande);
+
 /// One of the nine bands from "1.8 Mhz" to "28 Mhz".
 constexpr bool Bande_HF(std::string_view bande) {
   const int indice = Indice_Bande(bande);

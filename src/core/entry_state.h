@@ -20,6 +20,8 @@ struct Etat_Saisie {
   float Azimut = 0;                  ///< Whole degrees.
   std::string Distance_Texte;        ///< Whole kilometres.
 
+  int Etat_QSL_Courant = 0;  ///< QSL state of the selected contact: 1 none, 2 sent, 3 received, 4 both.
+
   bool QSO_Edition = false;     ///< The form edits a logged contact.
   std::string Ligne_Selection;  ///< The list line of the last click or double click.
   int Numero_Selection = 0;     ///< Number of the contact shown by the last double click.

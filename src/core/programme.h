@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/entry_state.h"
+#include "core/held_disk.h"
 #include "core/settings.h"
 #include "core/station_context.h"
 #include "platform/controls.h"
@@ -30,7 +31,7 @@ class Programme {
 
   // --- Files ---
 
-  Disk& Disque() const { return plateforme.disk; }
+  Disque_Tenu& Disque() const { return disque_; }
   /// The program's directory, `Chemin_Programme`.
   const std::string& Chemin_Programme() const { return plateforme.directory; }
   /// Directory, separator, file name.
@@ -115,6 +116,7 @@ class Programme {
   void Note_Focus(Control& controle);
   void Fin_Sur_Erreur(int numero, const std::string& texte);
 
+  mutable Disque_Tenu disque_{plateforme.disk};
   std::vector<std::unique_ptr<Form>> formes_;
   std::vector<std::unique_ptr<Form>> quittees_;
   Control* focus_ = nullptr;

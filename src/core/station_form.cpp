@@ -4,9 +4,11 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <utility>
 
 #include "core/errors.h"
+#include "core/loading_window.h"
 #include "core/log_file.h"
 #include "core/station_files.h"
 #include "core/text.h"
@@ -58,8 +60,8 @@ Station::Station(Programme& programme)
     : Form(programme, "Station", "Identification de la station"),
       Label5(*this, "Label5", "Le / est remplacé par _ à la saisie"_t) {
   // The fields wait for Enter on the row "Nouvel Indicatif", the button for a station to take over.
-  for (Control* controle : std::initializer_list<Control*>{&New_Indicatif, &New_Locator, &Label3, &Label4, &Label5,
-                                                           &Validation})
+  for (Control* controle :
+       std::initializer_list<Control*>{&New_Indicatif, &New_Locator, &Label3, &Label4, &Label5, &Validation})
     controle->SetEnabled(false);
 
   Liste_Indicatifs.KeyPress = [this](int& touche) { Liste_Indicatifs_KeyPress(touche); };
@@ -139,9 +141,8 @@ bool Station::Indicatif_Bon(const std::string& indicatif) {
     programme_.Message("12 caracteres maximum pour l'indicatif");
     return false;
   }
-  const bool permis = std::all_of(indicatif.begin(), indicatif.end(), [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || c == '_';
-  });
+  const bool permis = std::all_of(indicatif.begin(), indicatif.end(),
+                                  [](char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || c == '_'; });
   if (!permis) {
     programme_.Message("L'indicatif ne doit comporter que des lettres des chiffres ou le signe _ ");
     New_Indicatif.Clear();
@@ -174,7 +175,8 @@ void Station::Validation_Click() {
   if (Nouvel_Indicatif_Choisi()) Essaie([&] { Ajoute_A_La_Liste(indicatif, locator); });
 
   // Only a log that isn't there makes a new station. One that merely can't be read now must not be copied over.
-  const bool fichier_absent = !programme_.Disque().Exists(programme_.Chemin_Log(indicatif));
+  bool fichier_absent = false;
+  Essaie([&] { fichier_absent = !programme_.Disque().Exists(programme_.Chemin_Log(indicatif)); });
 
   auto& ddfm = programme_.Fenetre<DDFM>();
   programme_.contexte.Station_Indicatif = indicatif;
@@ -187,12 +189,13 @@ void Station::Validation_Click() {
     Adopte_Station(indicatif, locator);
   Montre_Station();
 
-  Essaie([&] {
-    if (ddfm.Liste_QSO.Count() > 0) ddfm.Liste_QSO.SetListIndex(ddfm.Liste_QSO.Count() - 1);
-  });
+  // In an empty log this selects nothing, and so forgets the line that was selected in the log before.
+  Essaie([&] { ddfm.Liste_QSO.SetListIndex(ddfm.Liste_QSO.Count() - 1); });
   ddfm.Bande_A.SetFocus();
   Unload();
 }
+
+void Station::Quitter_Click() { Unload(); }
 
 void Station::Ajoute_A_La_Liste(const std::string& indicatif, const std::string& locator) {
   const Reglages& reglages = programme_.reglages;
@@ -204,12 +207,13 @@ void Station::Ajoute_A_La_Liste(const std::string& indicatif, const std::string&
 void Station::Cree_Station(const std::string& indicatif, const std::string& locator) {
   const Reglages& reglages = programme_.reglages;
   Essaie([&] { Cree_Fichiers_Station(programme_, indicatif); });
-  Adopte_Station(indicatif, locator);
+  Essaie([&] { Enregistre_Choix(indicatif, locator); });
   Essaie([&] {
     reglages.Ecrit_Station("Indicatif Station", indicatif);
     reglages.Ecrit_Station("Locator Station", locator);
     for (const auto& [cle, valeur] : kReglages_Neufs) reglages.Ecrit_Station(cle, valeur);
   });
+  Essaie([&] { Relit_Choix(); });
   Essaie([&] { Ecrit_Fichier_Activites(programme_); });
   programme_.contexte.Numero_Sauvegarde = 0;
   Essaie([&] {
@@ -219,15 +223,18 @@ void Station::Cree_Station(const std::string& indicatif, const std::string& loca
 }
 
 void Station::Adopte_Station(const std::string& indicatif, const std::string& locator) {
-  const Reglages& reglages = programme_.reglages;
-  Essaie([&] {
-    reglages.Ecrit_Commun("Indicatif Station", indicatif);
-    reglages.Ecrit_Commun("Locator Station", locator);
-  });
-  Essaie([&] {
-    programme_.contexte.Station_Indicatif = reglages.Commun("Indicatif Station", kStation_Modele);
-    programme_.contexte.Station_Locator = reglages.Commun("Locator Station", kSans_Locator);
-  });
+  Essaie([&] { Enregistre_Choix(indicatif, locator); });
+  Essaie([&] { Relit_Choix(); });
+}
+
+void Station::Enregistre_Choix(const std::string& indicatif, const std::string& locator) {
+  programme_.reglages.Ecrit_Commun("Indicatif Station", indicatif);
+  programme_.reglages.Ecrit_Commun("Locator Station", locator);
+}
+
+void Station::Relit_Choix() {
+  programme_.contexte.Station_Indicatif = programme_.reglages.Commun("Indicatif Station", kStation_Modele);
+  programme_.contexte.Station_Locator = programme_.reglages.Commun("Locator Station", kSans_Locator);
 }
 
 void Station::Montre_Station() {
@@ -237,6 +244,11 @@ void Station::Montre_Station() {
   Essaie([&] { ddfm.Montre_Options(); });
   Essaie([&] { ddfm.Charge_Activites(5); });
   Essaie([&] { Charge_Log(programme_, programme_.contexte.Station_Indicatif); });
+  // A load that fails leaves its own window in place of the main one.
+  if (!ddfm.Visible()) {
+    programme_.Fenetre<Chargement>().Hide();
+    ddfm.Show();
+  }
   Essaie([&] { ddfm.Peint_Departements(); });
 }
 

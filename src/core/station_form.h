@@ -38,6 +38,8 @@ class Station : public Form {
   void Ajoute_A_La_Liste(const std::string& indicatif, const std::string& locator);
   void Cree_Station(const std::string& indicatif, const std::string& locator);
   void Adopte_Station(const std::string& indicatif, const std::string& locator);
+  void Enregistre_Choix(const std::string& indicatif, const std::string& locator);
+  void Relit_Choix();
   void Montre_Station();
 };
 

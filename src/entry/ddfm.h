@@ -84,9 +84,10 @@ class DDFM : public Form {
   ListBox Liste_QSO_Bis{*this, "Liste_QSO_Bis", ListBox::Kind::Sorted};  ///< Working copy, hidden.
 
   // --- Menus ---
-  MenuItem Mnu_Indicatif, Mnu_Val_Sauve, Mnu_Restauration, Mnu_Restau_Activite, Mnu_Quitter;
+  MenuItem Mnu_Indicatif, Mnu_Val_Sauve, Mnu_Restauration, Mnu_Restau_Activite, Mnu_RAZ_All, Mnu_Quitter;
   MenuItem Mnu_Auto_Oui, Mnu_Auto_Non, Mnu_UTC_Oui, Mnu_UTC_Non, Mnu_Sep_Oui, Mnu_Sep_Non, Mnu_Exp_Oui, Mnu_Exp_Non;
   MenuItem Mnu_Nomenclature, Mnu_Prefixe, Mnu_Ajout_Activite;
+  MenuItem Mnu_MAJ_Prefixe, Mnu_MAJ_Departement, Mnu_MAJ_Locator;
   MenuItem Mnu_Stat_Prefixe;
   MenuItem Mnu_Historique, Mnu_A_Propos;
 
@@ -103,6 +104,8 @@ class DDFM : public Form {
   void Montre_Options();
   /// Paints the departments of `Bande_Grille`, and tells their count in `Frame3`.
   void Peint_Departements();
+  /// After cards have been entered: the grid in department mode, the log read anew, its last line selected.
+  void Reprend_Apres_QSL();
   /// Tells the count of departments in `Frame3`.
   void Legende_Departements();
 
@@ -163,6 +166,7 @@ class DDFM : public Form {
   void Editer_Click();
   void Effacer_Click();
   void Annuler_Click();
+  void Gestion_QSL_Click();
   bool Rien_De_Choisi();
   void Montre_Ligne();
   void Montre_QSL();
@@ -178,6 +182,7 @@ class DDFM : public Form {
   // Menus.
   void Mnu_Date_Automatique(bool automatique);
   void Mnu_Restauration_Click();
+  void Mnu_RAZ_All_Click();
 };
 
 }  // namespace vorelio

@@ -7,8 +7,10 @@
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "tallies/add_prefix_window.h"
+#include "tallies/department_tally.h"
 #include "tallies/directory_window.h"
 #include "tallies/prefix_statistics_window.h"
+#include "tallies/rebuild.h"
 
 namespace vorelio {
 
@@ -38,6 +40,10 @@ void DDFM::Relie_Menus() {
   Mnu_Nomenclature.Click = [this] { programme_.Fenetre<Fichier_Nomenclature>().Show(); };
   Mnu_Prefixe.Click = [this] { programme_.Fenetre<Ajout_Prefixe>().Show(); };
   Mnu_Ajout_Activite.Click = [this] { programme_.Fenetre<Ajout_Activite>().Show(); };
+  Mnu_MAJ_Prefixe.Click = [this] { Refait_Prefixes(programme_); };
+  Mnu_MAJ_Departement.Click = [this] { Refait_Departements(programme_); };
+  Mnu_MAJ_Locator.Click = [this] { Refait_Locators(programme_); };
+  Mnu_RAZ_All.Click = [this] { Mnu_RAZ_All_Click(); };
   Mnu_Stat_Prefixe.Click = [this] { programme_.Fenetre<Statistique_Prefixe>().Show(); };
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
   Mnu_A_Propos.Click = [this] {
@@ -63,6 +69,25 @@ void DDFM::Mnu_Restauration_Click() {
   Restaure_Sauvegarde(programme_);
   programme_.Message("Les fichiers :\r\n\r\nIndicatif.log\r\nDepartement.txt\r\nLocator.txt\r\nPrefixe.txt\r\nSont restaurés"_t);
   Charge_Log(programme_, programme_.contexte.Station_Indicatif);
+}
+
+void DDFM::Mnu_RAZ_All_Click() {
+  auto& contexte = programme_.contexte;
+  if (!programme_.Avertissement("!!! ATTENTION !!! tout les fichiers " + contexte.Station_Indicatif +
+                                " vont etre effacé , Continuer ?"_t))
+    return;
+  for (const char* suite : {".log", "_Departement.txt", "_Prefixe.txt", "_Locator.txt"})
+    programme_.Disque().Copy(programme_.Chemin(std::string(kStation_Modele) + suite), programme_.Chemin_Station(suite));
+  Bande_A.SetEnabled(true);
+  Bande_A.SetFocus();
+  Affiche_Departements(programme_, contexte.Bande_Grille, contexte.Nb_Contactes);
+  Charge_Log(programme_, contexte.Station_Indicatif);
+  // The word "SSB" stands there whatever the mode is.
+  Frame3.SetCaption(Texte_Nombre_Blanc(contexte.Nb_Contactes) + " Dpts contactée sur  "_t + contexte.Bande_Grille +
+                    " en SSB");
+  Bande_A.SetColour(kSaisie);
+  Mode_A.SetColour(kFait);
+  Bande_A.SetFocus();
 }
 
 }  // namespace vorelio

@@ -1,6 +1,7 @@
 #include "core/log_file.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "qsl/qsl_window.h"
 #include "tallies/department_tally.h"
 
 namespace vorelio {
@@ -150,6 +151,23 @@ void DDFM::Annuler_Click() {
   Editer.SetEnabled(false);
   Effacer.SetEnabled(false);
   Annonce_Numero(programme_, programme_.contexte.Nb_QSO + 1);
+}
+
+void DDFM::Gestion_QSL_Click() {
+  if (Rien_De_Choisi()) return;
+  const std::string& ligne = Liste_QSO.Text();
+  programme_.saisie.Etat_QSL_Courant = static_cast<int>(Valeur(Lit_Liste(ligne, champs::Etat_QSL)));
+  auto& qsl = programme_.Fenetre<QSL>();
+  qsl.Montre_QSO(ligne);
+  qsl.Show();
+}
+
+void DDFM::Reprend_Apres_QSL() {
+  auto& contexte = programme_.contexte;
+  Affiche_Departements(programme_, contexte.Bande_Grille, contexte.Nb_Contactes);
+  Option1(1).SetOn();
+  Charge_Log(programme_, contexte.Station_Indicatif);
+  Liste_QSO.SetListIndex(Liste_QSO.Count() - 1);
 }
 
 }  // namespace vorelio

@@ -40,6 +40,7 @@ DDFM::DDFM(Programme& programme)
       Mnu_Val_Sauve(*this, "Mnu_Val_Sauve", "Parametres de sauvegarde"),
       Mnu_Restauration(*this, "Mnu_Restauration", "Restauration de la derniere sauvegarde"),
       Mnu_Restau_Activite(*this, "Mnu_Restau_Activite", "Restauration des activités"_t),
+      Mnu_RAZ_All(*this, "Mnu_RAZ_All", "Remise a zéro des fichiers log, Départements et Locators"_t),
       Mnu_Quitter(*this, "Mnu_Quitter", "Quitter Vorelio"),
       Mnu_Auto_Oui(*this, "Mnu_Auto_Oui", "Oui"),
       Mnu_Auto_Non(*this, "Mnu_Auto_Non", "Non"),
@@ -52,6 +53,9 @@ DDFM::DDFM(Programme& programme)
       Mnu_Nomenclature(*this, "Mnu_Nomenclature", "Edition du fichier Nomenclature"),
       Mnu_Prefixe(*this, "Mnu_Prefixe", "Ajout d'un prefixe"),
       Mnu_Ajout_Activite(*this, "Mnu_Ajout_Activite", "Ajout d'une activité"_t),
+      Mnu_MAJ_Prefixe(*this, "Mnu_MAJ_Prefixe", "Mise a jour des prefixes contactés"_t),
+      Mnu_MAJ_Departement(*this, "Mnu_MAJ_Departement", "Mise a jour des départements contactés"_t),
+      Mnu_MAJ_Locator(*this, "Mnu_MAJ_Locator", "Mise a jour des locators contactés"_t),
       Mnu_Stat_Prefixe(*this, "Mnu_Stat_Prefixe", "Des prefixes contactés"_t),
       Mnu_Historique(*this, "Mnu_Historique", "Historique"),
       Mnu_A_Propos(*this, "Mnu_A_Propos", "A Propos de") {
@@ -74,8 +78,7 @@ DDFM::DDFM(Programme& programme)
   Liste_QSO_Bis.SetVisible(false);
   // These lead to windows that this version doesn't have.
   for (Control* cache : {static_cast<Control*>(&Mnu_Exp_Oui), static_cast<Control*>(&Mnu_Exp_Non),
-                         static_cast<Control*>(&Exporter), static_cast<Control*>(&Recherche),
-                         static_cast<Control*>(&Gestion_QSL)})
+                         static_cast<Control*>(&Exporter), static_cast<Control*>(&Recherche)})
     cache->SetVisible(false);
   Relie_Evenements();
 }
@@ -111,6 +114,7 @@ void DDFM::Relie_Evenements() {
   clic(Annuler, &DDFM::Annuler_Click);
   clic(Editer, &DDFM::Editer_Click);
   clic(Effacer, &DDFM::Effacer_Click);
+  clic(Gestion_QSL, &DDFM::Gestion_QSL_Click);
   clic(Liste_QSO, &DDFM::Liste_QSO_Click);
   Liste_QSO.DblClick = [this] { Liste_QSO_DblClick(); };
   clic(Option1(0), &DDFM::Option1_Click);

@@ -1,0 +1,228 @@
+#include "tallies/rebuild.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "core/bands.h"
+#include "core/errors.h"
+#include "core/log_line.h"
+#include "core/text.h"
+#include "entry/ddfm.h"
+#include "tallies/department_tally.h"
+#include "tallies/locator_tally.h"
+#include "tallies/prefix_tally.h"
+#include "tallies/progress_window.h"
+#include "tallies/tally_file.h"
+#include "tallies/tally_table.h"
+
+namespace vorelio::Sous_Programmes {
+
+namespace {
+
+std::string_view Cle_Departement(std::string_view ligne) { return Rogne(Coupe(ligne, 1, 2)); }
+std::string_view Cle_Locator(std::string_view ligne) { return Rogne(Coupe(ligne, 1, 4)); }
+
+/// A tally in memory while a rebuild runs: read again when somebody else has used the disk, written when somebody is
+/// about to, and at the end.
+class Pointage_Tenu {
+ public:
+  Pointage_Tenu(Programme& programme, std::string_view suite, Table_Pointage::Cle_De cle_de)
+      : chemin_(programme.Chemin_Station(suite)),
+        temporaire_(programme.Chemin("Temporaire.txt")),
+        disk_(programme.Disque()),
+        cle_de_(cle_de),
+        table_(disk_.ReadAll(chemin_), cle_de),
+        tenue_(disk_, [this](Disk& disk) { Ecrit(disk); }) {}
+
+  Table_Pointage& Table() { return table_; }
+
+  /// A log line has been run through: the file is to be rewritten.
+  void Reecrit() { tenue_.Modifie(); }
+  void Depose() { tenue_.Depose(); }
+
+  /// After events have been served.
+  void Relit_Si_Touche() {
+    if (tenue_.Disque_Touche()) table_ = Table_Pointage(disk_.ReadAll(chemin_), cle_de_);
+    tenue_.Disque_Touche();
+  }
+
+  /// What a rewriting leaves that fails at the line `indice`: the tally as it was, the temporary file up to there.
+  [[noreturn]] void Echoue(int indice) {
+    Depose();
+    disk_.WriteAll(temporaire_, table_.Texte_Avant(indice));
+    throw Erreur_Execution(Erreur::Argument_Invalide, chemin_);
+  }
+
+ private:
+  void Ecrit(Disk& disk) const {
+    disk.WriteAll(temporaire_, table_.Texte());
+    disk.Delete(chemin_);
+    disk.Copy(temporaire_, chemin_);
+    disk.Delete(temporaire_);
+  }
+
+  std::string chemin_;
+  std::string temporaire_;
+  Disque_Tenu& disk_;
+  Table_Pointage::Cle_De cle_de_;
+  Table_Pointage table_;
+  Disque_Tenu::Tenue tenue_;
+};
+
+/// Puts the template in the tally's place: all work so far is gone from here on. Gives the log's text.
+std::string Commence(Programme& programme, std::string_view suite) {
+  programme.Disque().Copy(programme.Chemin(std::string(kStation_Modele).append(suite)), programme.Chemin_Station(suite));
+  return programme.Disque().ReadAll(programme.Chemin_Log(programme.contexte.Station_Indicatif));
+}
+
+/// Runs the log through the tally, line by line, telling how far it has come.
+void Parcourt(Programme& programme, std::string_view log, std::string_view suite, Table_Pointage::Cle_De cle_de,
+              const std::function<void(Pointage_Tenu&, std::string_view ligne)>& etape) {
+  const std::string lecture = "Lecture du log ligne n° "_t;
+  int n = 1;
+  const auto annonce = [&] { programme.Fenetre<Progression>().Label3.SetCaption(lecture + Texte_Nombre_Blanc(n)); };
+  programme.Fenetre<Progression>().Show();
+  annonce();
+
+  Pointage_Tenu pointage(programme, suite, cle_de);
+  for (Lecteur_Lignes lignes(log); !lignes.Fini();) {
+    etape(pointage, lignes.Suivante());
+    ++n;
+    annonce();
+    programme.Traite_Evenements();
+    pointage.Relit_Si_Touche();
+  }
+  pointage.Depose();
+}
+
+void Annonce_La_Fin(Programme& programme) {
+  programme.Fenetre<Progression>().Label3.SetCaption("Mise a jour terminée"_t);
+}
+
+std::string Boite(const std::string& nom) {
+  return "Le fichier " + nom + " va etre mis a jour a partir du fichier log";
+}
+
+/// The callsigns of unknown prefix; written when the rebuild ends, in whatever way.
+class Liste_Absents {
+ public:
+  Liste_Absents(Programme& programme, std::string chemin) : disk_(programme.Disque()), chemin_(std::move(chemin)) {
+    disk_.WriteAll(chemin_, "");
+  }
+  ~Liste_Absents() {
+    try {
+      Ferme();
+    } catch (const Erreur_Execution&) {
+      // The rebuild has already failed; its own error is the one to tell.
+    }
+  }
+  Liste_Absents(const Liste_Absents&) = delete;
+  Liste_Absents& operator=(const Liste_Absents&) = delete;
+
+  void Note_Absent(std::string_view indicatif) { texte_.append(indicatif).append(kFin_De_Ligne); }
+
+  void Ferme() {
+    if (texte_.empty()) return;
+    disk_.Append(chemin_, std::exchange(texte_, {}));
+  }
+
+ private:
+  Disk& disk_;
+  std::string chemin_;
+  std::string texte_;
+};
+
+void Reconstruit_Prefixe(Pointage_Tenu& pointage, Liste_Absents& absents, std::string_view indicatif, int bande,
+                         std::string_view etat) {
+  const int indice = pointage.Table().Cherche_Debut(indicatif);
+  if (indice < 0) absents.Note_Absent(indicatif);
+  const int premiere = Colonne_Prefixe(kBandes.front());
+  if (indice >= 0 && bande >= 0) pointage.Table().Monte_Code(indice, premiere + bande, etat, premiere);
+  pointage.Reecrit();
+}
+
+void Reconstruit_Departement(Pointage_Tenu& pointage, std::string_view departement, int bande, std::string_view etat) {
+  const int indice = pointage.Table().Cherche(departement);
+  if (indice >= 0 && bande < 0) pointage.Echoue(indice);
+  const int premiere = Colonne_Departement(kBandes.front());
+  if (indice >= 0) pointage.Table().Monte_Code(indice, premiere + bande, etat, premiere);
+  pointage.Reecrit();
+}
+
+void Reconstruit_Locator(Pointage_Tenu& pointage, std::string_view carre, int bande, std::string_view etat) {
+  const int indice = pointage.Table().Cherche(carre);
+  const int premiere = Colonne_Locator(kBandes[kBandes_HF]);
+  if (indice >= 0 && bande < kBandes_HF) {
+    // The reading ends here: this square and all below it are lost, as they always were.
+    pointage.Table().Coupe_A_Partir(indice);
+  } else if (indice >= 0) {
+    pointage.Table().Monte_Code(indice, premiere + bande - kBandes_HF, etat, premiere);
+  }
+  pointage.Reecrit();
+}
+
+/// The bands from 50 MHz to 10 GHz. Contacts on 24 GHz count only while the form is on that band, and then contacts of
+/// any band with a square do: locator tallies have always been rebuilt so.
+bool Compte_Le_Carre(int bande, const Contexte_Station& contexte) {
+  const int derniere = static_cast<int>(kBandes.size()) - 1;
+  return (bande >= kBandes_HF && bande < derniere) || contexte.Bande_Courante == kBandes.back();
+}
+
+}  // namespace
+
+void Refait_Prefixes(Programme& programme) {
+  programme.Message(Boite("Prefixe"));
+  programme.Disque().Copy(programme.Chemin(std::string(kStation_Modele) + ".log"),
+                          programme.Chemin_Station("_Absent.txt"));
+  // Named after the callsign typed last, not after the station: what was just emptied isn't what gets written, and
+  // users have looked for the list under that name.
+  const std::string log = Commence(programme, "_Prefixe.txt");
+  Liste_Absents absents(programme, programme.Chemin(programme.saisie.Indicatif_Saisi + "_Absent.txt"));
+  Parcourt(programme, log, "_Prefixe.txt", Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
+    Reconstruit_Prefixe(pointage, absents, Lit_Log(ligne, champs::Indicatif_A),
+                        Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
+  });
+  absents.Ferme();
+  Annonce_La_Fin(programme);
+}
+
+void Refait_Departements(Programme& programme) {
+  programme.Message(Boite("Departement"));
+  const std::string log = Commence(programme, "_Departement.txt");
+  Parcourt(programme, log, "_Departement.txt", Cle_Departement, [](Pointage_Tenu& pointage, std::string_view ligne) {
+    Reconstruit_Departement(pointage, Majuscules(Rogne(Coupe(ligne, champs::Depart_A.colonne, 2))),
+                            Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
+  });
+  auto& contexte = programme.contexte;
+  contexte.Bande_Grille = contexte.Bande_Courante;
+  Affiche_Departements(programme, contexte.Bande_Grille, contexte.Nb_Contactes);
+  Annonce_La_Fin(programme);
+}
+
+void Refait_Locators(Programme& programme) {
+  auto& contexte = programme.contexte;
+  programme.Message(Boite("Locator"));
+  const std::string log = Commence(programme, "_Locator.txt");
+  try {
+    Parcourt(programme, log, "_Locator.txt", Cle_Locator, [&](Pointage_Tenu& pointage, std::string_view ligne) {
+      const std::string_view carre = Rogne(Coupe(ligne, champs::Locator_A.colonne, 4));
+      const int bande = Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A));
+      if (!carre.empty() && Compte_Le_Carre(bande, contexte))
+        Reconstruit_Locator(pointage, carre, bande, Lit_Log(ligne, champs::Etat_QSL));
+    });
+  } catch (const Erreur_Execution& erreur) {
+    programme.Message(erreur.Genre() == Erreur::Fichier_Introuvable
+                          ? "Fichier FXXXX_Locator.txt Absent du repertoire"
+                          : "Erreur N° "_t + Texte_Nombre_Blanc(erreur.Numero()));
+    programme.Termine();
+    throw Fin_Programme{};
+  }
+  auto& ddfm = programme.Fenetre<DDFM>();
+  Affiche_Locators(programme, ddfm.Bande_DDFM.Text(), ddfm.Carre_DDFM.Text(), contexte.Nb_Contactes);
+  contexte.Bande_Grille = contexte.Bande_Courante;
+  Affiche_Departements(programme, contexte.Bande_Grille, contexte.Nb_Contactes);
+  Annonce_La_Fin(programme);
+}
+
+}  // namespace vorelio::Sous_Programmes
