@@ -1,0 +1,209 @@
+#include "core/log_file.h"
+
+#include "core/calendar.h"
+#include "core/errors.h"
+#include "core/log_line.h"
+#include "entry/ddfm.h"
+#include "support/station_fixture.h"
+
+namespace vorelio::tests {
+namespace {
+
+using namespace Sous_Programmes;
+
+std::string Ligne(const std::string& date, const std::string& heure, const std::string& indicatif) {
+  Champs_QSO qso;
+  qso.Date_A = date;
+  qso.Debut_A = heure;
+  qso.Indicatif_A = indicatif;
+  return Construit_Ligne(qso);
+}
+
+class LogFile : public StationFixture {
+ protected:
+  LogFile() { ReadyStation("F9QZX"); }
+
+  DDFM& Start(const std::string& log) {
+    Write("F9QZX.log", log);
+    Event([&] { programme->Fenetre<DDFM>(); });
+    disk.Forget();
+    return *programme->Ouverte<DDFM>();
+  }
+
+  /// The callsigns of the list, in its order.
+  std::string Calls() const {
+    std::string calls;
+    for (const auto& row : programme->Ouverte<DDFM>()->Liste_QSO.Items())
+      calls.append(Lit_Liste(row, champs::Indicatif_A)).append(" ");
+    return calls;
+  }
+};
+
+TEST_F(LogFile, InsertsAtTheDateWithItsCentury) {
+  struct {
+    const char* date;
+    const char* time;
+    const char* order;
+  } const cases[] = {
+      {"31/12/49", "10:00", "OLD MID LATE NEW "},  // 2049
+      {"01/01/50", "00:00", "NEW OLD MID LATE "},  // 1950
+      {"01/06/99", "12:00", "OLD NEW MID LATE "},
+      {"02/01/04", "10:00", "OLD MID NEW LATE "},  // a tie goes to the new one
+      {"02/01/04", "10:01", "OLD MID LATE NEW "},
+  };
+  const std::string log = Ligne("01/01/99", "10:00", "OLD") + "\r\n" + Ligne("01/01/04", "23:59", "MID") + "\r\n" +
+                          Ligne("02/01/04", "10:00", "LATE") + "\r\n";
+  for (const auto& c : cases) {
+    Restart();
+    Start(log);
+    Event([&] { Insere_QSO_Log(*programme, Ligne(c.date, c.time, "NEW")); });
+    EXPECT_EQ(Calls(), c.order) << c.date;
+    // The file is the list without its numbers.
+    std::string bytes;
+    int number = 1;
+    for (const auto& row : programme->Ouverte<DDFM>()->Liste_QSO.Items()) {
+      EXPECT_EQ(row.substr(0, 6), Colonne_Numero(number++));
+      bytes.append(Partie_Log(row)).append("\r\n");
+    }
+    EXPECT_EQ(Read("F9QZX.log"), bytes);
+    EXPECT_EQ(disk.Changes(), std::vector<std::string>{"write F9QZX.log"});
+  }
+}
+
+TEST_F(LogFile, AsksOldLinesForTheirDateOnlyUntilThePlaceIsFound) {
+  const std::string broken = Ligne("31/02/05", "10:00", "BROKEN") + "\r\n";
+  Start(Ligne("01/01/04", "10:00", "LATE") + "\r\n" + broken);
+  Event([&] { Insere_QSO_Log(*programme, Ligne("01/01/03", "10:00", "NEW")); });
+  EXPECT_EQ(Calls(), "NEW LATE BROKEN ");
+  EXPECT_EQ(messages.fatal_number, 0);
+
+  Restart();
+  Start(broken + Ligne("01/01/04", "10:00", "LATE") + "\r\n");
+  const std::string before = Read("F9QZX.log");
+  Event([&] { Insere_QSO_Log(*programme, Ligne("01/01/06", "10:00", "NEW")); });
+  EXPECT_EQ(messages.fatal_number, 13);
+  EXPECT_EQ(Read("F9QZX.log"), before);
+}
+
+TEST_F(LogFile, ReadsWhateverEndsItsLines) {
+  const std::string line = Ligne("01/01/04", "10:00", "F6ABC");
+  struct {
+    std::string bytes;
+    int count;
+  } const cases[] = {{"", 0}, {line + "\r\n", 1}, {line + "\n" + line, 2}, {line + "\r\n" + line.substr(0, 90), 2},
+                     {"\r\n\r\n", 2}};
+  for (const auto& c : cases) {
+    Restart();
+    auto& ddfm = Start(c.bytes);
+    EXPECT_EQ(ddfm.Liste_QSO.Count(), c.count);
+    EXPECT_EQ(programme->contexte.Nb_QSO, c.count);
+    EXPECT_EQ(ddfm.Frame4.Caption(), De_Utf8("QSO numéro ") + std::to_string(c.count + 1));
+    EXPECT_TRUE(ddfm.Visible());
+    // Reading changes nothing.
+    EXPECT_EQ(Read("F9QZX.log"), c.bytes);
+  }
+}
+
+TEST_F(LogFile, AMissingLogAndTheHundredThousandthLineEndTheProgram) {
+  folder.Remove("F9QZX.log");
+  Event([&] { programme->Fenetre<DDFM>(); });
+  EXPECT_EQ(messages.fatal_number, 53);
+
+  Restart();
+  std::string log;
+  for (int i = 0; i < 100000; ++i) log += "x\r\n";
+  Write("F9QZX.log", log);
+  Event([&] { programme->Fenetre<DDFM>(); });
+  EXPECT_EQ(messages.fatal_number, 5);
+}
+
+TEST_F(LogFile, DeletesAndRenumbers) {
+  auto& ddfm = Start(Ligne("01/01/04", "10:00", "A") + "\r\n" + Ligne("02/01/04", "10:00", "B") + "\r\n" +
+                     Ligne("03/01/04", "10:00", "C") + "\r\n");
+  Event([&] {
+    ddfm.Liste_QSO.SetListIndex(1);
+    Efface_Ligne_Log(*programme);
+  });
+  EXPECT_EQ(Calls(), "A C ");
+  EXPECT_EQ(ddfm.Liste_QSO.Item(1).substr(0, 6), "    2 ");
+  EXPECT_EQ(Read("F9QZX.log"), Ligne("01/01/04", "10:00", "A") + "\r\n" + Ligne("03/01/04", "10:00", "C") + "\r\n");
+  Event([&] { Efface_Ligne_Log(*programme); });
+  EXPECT_EQ(messages.fatal_number, 5);
+}
+
+TEST_F(LogFile, ASaveThatCannotBeWrittenIsSeenWithTheFormStillFilled) {
+  auto& ddfm = Start("");
+  ddfm.Mnu_Auto_Oui.UserClick();
+  Event([&] { ddfm.Indicatif_A.SetText("1ZZZ"); });
+  for (TextField* field : {&ddfm.Indicatif_A})
+    Event([&] { field->UserKey(kEntree); });
+  Event([&] { ddfm.Mode_A.UserKey(kEntree); });
+  Event([&] { ddfm.Activ_A.UserKey(kEntree); });
+  for (TextField* field : {&ddfm.RSTE_A, &ddfm.RSTR_A, &ddfm.Prenom_A, &ddfm.QTH_A, &ddfm.Remarques_A})
+    Event([&] { field->UserKey(kEntree); });
+  ASSERT_TRUE(ddfm.Enregistrer.Enabled());
+
+  disk.FailOn("append F9QZX.log", Erreur::Disque_Plein);
+  std::string call_at_the_box;
+  messages.OnBox = [&](const Box& box) {
+    if (box.kind == Box::Kind::Fatal) call_at_the_box = ddfm.Indicatif_A.Text();
+  };
+  Event([&] { ddfm.Enregistrer.UserClick(); });
+  EXPECT_EQ(messages.fatal_number, 61);
+  EXPECT_EQ(call_at_the_box, "1ZZZ");
+  EXPECT_EQ(ddfm.NB_Debug.Caption(), "7");
+  EXPECT_EQ(Read("F9QZX.log"), "");
+}
+
+TEST(Calendar, TakesRealDatesAlone) {
+  EXPECT_LT(Moment_QSO("31/12/99", "23:59"), Moment_QSO("01/01/00", "00:00"));
+  EXPECT_LT(Moment_QSO("01/01/50", "12:00"), Moment_QSO("01/01/49", "12:00"));
+  EXPECT_LT(Moment_QSO("29/02/04", "9:05"), Moment_QSO("01/03/04", ""));
+  for (const char* date : {"31/02/07", "29/02/03", "12/13/03", "00/01/03", "12-05-03", "        ", "", "aa/bb/cc", "1/1"})
+    EXPECT_THROW(Moment_QSO(date, "10:00"), Erreur_Execution) << date;
+  for (const char* time : {"24:00", "10:60", "99:99", "1000", "ab:cd"})
+    EXPECT_THROW(Moment_QSO("12/05/03", time), Erreur_Execution) << time;
+}
+
+TEST(LogLine, StandsInItsColumns) {
+  Champs_QSO qso;
+  qso.Date_A = "12/05/03";
+  qso.Indicatif_A = "F9QZX/PORTAB";
+  qso.Debut_A = "10:00";
+  qso.Fin_A = "10:05";
+  qso.Depart_A = "2a";
+  qso.Locator_A = "JN33BB";
+  qso.Bande_A = "144 Mhz";
+  qso.Mode_A = "PACKET7";
+  qso.RSTE_A = "59";
+  qso.RSTR_A = "58";
+  qso.QTH_A = "DFCF 06001";
+  qso.Prenom_A = "Zo\xE9";
+  qso.Distance_A = "12345";
+  qso.Azimut_A = "360";
+  qso.Activ_A = "12";
+  qso.Remarques_A = "C. CHATEAU";
+  const std::string line = Construit_Ligne(qso);
+  ASSERT_EQ(line.size(), 199U);
+  const struct {
+    Champ field;
+    std::string text;
+  } cases[] = {{champs::Date_A, "12/05/03"},   {champs::Indicatif_A, "F9QZX/PORTAB"}, {champs::Debut_A, "10:00"},
+               {champs::Fin_A, "10:05"},       {champs::Depart_A, "2a"},              {champs::Locator_A, "JN33BB"},
+               {champs::Bande_A, "144 Mhz"},   {champs::Mode_A, "PACKET7"},           {champs::RSTE_A, "59"},
+               {champs::RSTR_A, "58"},         {champs::QTH_A, "DFCF 06001"},         {champs::Prenom_A, "Zo\xE9"},
+               {champs::Etat_QSL, "1"},        {champs::QSLE_A, ""},                  {champs::QSLR_A, ""},
+               {champs::Distance_A, "12345"},  {champs::Azimut_A, "360"},             {champs::Activ_A, "12"},
+               {champs::Remarques_A, "C. CHATEAU"}};
+  for (const auto& c : cases) EXPECT_EQ(Lit_Log(line, c.field), c.text) << c.field.colonne;
+  EXPECT_EQ(line.back(), '*');
+
+  // Longer than its width uses the gap; beyond it there is no place.
+  qso.Mode_A = "PACKET789";
+  EXPECT_EQ(Construit_Ligne(qso).size(), 199U);
+  qso.Mode_A = "PACKET7890";
+  EXPECT_THROW(Construit_Ligne(qso), Erreur_Execution);
+}
+
+}  // namespace
+}  // namespace vorelio::tests

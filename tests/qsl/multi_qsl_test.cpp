@@ -1,0 +1,98 @@
+#include "qsl/multi_qsl_window.h"
+
+#include "core/errors.h"
+#include "core/log_line.h"
+#include "entry/ddfm.h"
+#include "qsl/qsl_window.h"
+#include "support/random_log.h"
+#include "support/station_fixture.h"
+
+namespace vorelio::tests {
+namespace {
+
+class MultiQsl : public StationFixture {
+ protected:
+  MultiQsl() { ReadyStation("F9QZX"); }
+
+  DDFM& Start(const std::string& log) {
+    Write("F9QZX.log", log);
+    Event([&] { programme->Fenetre<DDFM>(); });
+    return *programme->Ouverte<DDFM>();
+  }
+
+  void EnterOne(DDFM& ddfm, int row, bool sent) {
+    Event([&] { ddfm.Liste_QSO.UserSelect(row); });
+    Event([&] { ddfm.Gestion_QSL.UserClick(); });
+    auto* window = programme->Ouverte<QSL>();
+    Event([&] { (sent ? window->Check_Envoye : window->Check_Recu).UserClick(); });
+    Event([&] { window->Enregistre.UserClick(); });
+  }
+
+  std::string AllFiles() const { return Read("F9QZX.log") + Read("F9QZX_Departement.txt") + Read("F9QZX_Locator.txt"); }
+
+  Multi_QSL& Open(bool sent) {
+    Event([&] { programme->Fenetre<Multi_QSL>().Show(); });
+    auto& window = *programme->Ouverte<Multi_QSL>();
+    if (!sent) Event([&] { window.Option2.UserClick(); });
+    Event([&] { window.Recherche.UserClick(); });
+    return window;
+  }
+};
+
+TEST_F(MultiQsl, ABatchLeavesWhatTheCardsOneByOneWould) {
+  for (const bool sent : {true, false}) {
+    RandomLog random(sent ? 5 : 6);
+    random.unknown_bands = false;
+    std::string log;
+    for (int i = 0; i < 40; ++i) {
+      std::string line = random.Line();
+      line.resize(kLargeur_Ligne, ' ');
+      log += line + "\r\n";
+    }
+    auto& ddfm = Start(log);
+    for (int row = 0; row < 40; ++row) {
+      const std::string_view state = Lit_Liste(ddfm.Liste_QSO.Item(row), champs::Etat_QSL);
+      if (state == "1" || state == (sent ? "3" : "2")) EnterOne(ddfm, row, sent);
+    }
+    const std::string one_by_one = AllFiles();
+
+    Restart();
+    ReadyStation("F9QZX");
+    Start(log);
+    auto& window = Open(sent);
+    ASSERT_GT(window.Liste_QSO.Count(), 10);
+    for (int row = 0; row < window.Liste_QSO.Count(); ++row) window.Liste_QSO.UserTick(row);
+    disk.Forget();
+    Event([&] { window.Enregistre.UserClick(); });
+    EXPECT_EQ(AllFiles(), one_by_one);
+    EXPECT_EQ(std::count(disk.Log().begin(), disk.Log().end(), "write Temporaire4.txt"), 1);
+    EXPECT_EQ(programme->Ouverte<Multi_QSL>(), nullptr);
+    Restart();
+    ReadyStation("F9QZX");
+  }
+}
+
+TEST_F(MultiQsl, AFailureHalfWayLeavesTheCardsBeforeItInTheLog) {
+  Champs_QSO qso;
+  qso.Date_A = "12/05/03";
+  qso.Indicatif_A = "F6ABC";
+  qso.Bande_A = "14 Mhz";
+  std::string log;
+  for (const char* department : {"06", "07", "08"}) {
+    qso.Depart_A = department;
+    log += Construit_Ligne(qso) + "\r\n";
+  }
+  Start(log);
+  auto& window = Open(true);
+  for (int row = 0; row < 3; ++row) window.Liste_QSO.UserTick(row);
+  // The second contact's update of the department tally is the one that fails.
+  disk.FailWriteAfter(2, 10, Erreur::Disque_Plein);
+  Event([&] { window.Enregistre.UserClick(); });
+  EXPECT_EQ(messages.fatal_number, 61);
+  EXPECT_EQ(Line("F9QZX.log", 1).substr(134, 10), "2 12/05/03");
+  EXPECT_EQ(Line("F9QZX.log", 2).substr(134, 2), "1 ");
+  EXPECT_EQ(Line("F9QZX_Departement.txt", 6).substr(0, 8), "06 00002");
+}
+
+}  // namespace
+}  // namespace vorelio::tests

@@ -1,0 +1,226 @@
+#include "tallies/rebuild.h"
+
+#include <fstream>
+#include <optional>
+#include <sstream>
+
+#include "core/errors.h"
+#include "entry/ddfm.h"
+#include "support/random_log.h"
+#include "support/station_fixture.h"
+#include "tallies/department_tally.h"
+
+namespace vorelio::tests {
+namespace {
+
+/// The rebuilds as they would be with a rewriting of the whole tally for every line of the log: slow, and the judge.
+class LineByLine {
+ public:
+  enum class Kind { Prefix, Department, Locator };
+
+  LineByLine(Kind kind, std::string tally, std::string current_band)
+      : kind_(kind), tally_(std::move(tally)), current_band_(std::move(current_band)) {}
+
+  /// False if the rebuild fails at this line.
+  bool Take(const std::string& line) {
+    const std::string call(Lit_Log(line, champs::Indicatif_A));
+    const std::string band = Majuscules(Lit_Log(line, champs::Bande_A));
+    const std::string state(Lit_Log(line, champs::Etat_QSL));
+    if (kind_ == Kind::Prefix) {
+      if (!Rewrite(Band(band), 8, state, [&](const std::string& row) {
+            const std::string prefix(Rogne(std::string_view(row).substr(0, 5)));
+            return call.substr(0, prefix.size()) == prefix;
+          }))
+        absent += call + "\r\n";
+      return true;
+    }
+    if (kind_ == Kind::Department) {
+      const std::string department = Majuscules(Rogne(Coupe(line, 37, 2)));
+      Rewrite(Band(band), 4, state,
+              [&](const std::string& row) { return Rogne(std::string_view(row).substr(0, 2)) == department; });
+      return !failed_;
+    }
+    const std::string square(Rogne(Coupe(line, 42, 4)));
+    const int index = Band(band);
+    if (square.empty() || !((index >= 9 && index <= 15) || current_band_ == "24 Ghz")) return true;
+    Rewrite(index < 9 ? -1 : index - 9, 6, state,
+            [&](const std::string& row) { return Rogne(std::string_view(row).substr(0, 4)) == square; });
+    return true;
+  }
+
+  const std::string& Tally() const { return tally_; }
+  std::string absent;
+  std::optional<std::string> left_over;  ///< `Temporaire.txt` after a failure.
+
+ private:
+  static int Band(const std::string& upper) {
+    for (std::size_t i = 0; i < kBandes.size(); ++i)
+      if (Majuscules(kBandes[i]) == upper) return static_cast<int>(i);
+    return -1;
+  }
+
+  template <typename Match>
+  bool Rewrite(int band, int first, const std::string& state, Match match) {
+    std::istringstream in(tally_);
+    std::string out, row;
+    bool found = false;
+    while (std::getline(in, row)) {
+      if (row.ends_with('\r')) row.pop_back();
+      if (!found && match(row)) {
+        found = true;
+        if (band < 0 && kind_ == Kind::Department) {
+          failed_ = true;
+          left_over = out;
+          return true;
+        }
+        if (band < 0 && kind_ == Kind::Locator) break;
+        if (band >= 0 && !state.empty()) {
+          char& code = row[static_cast<std::size_t>(first - 1 + band)];
+          if (Valeur(std::string(1, code)) <= Valeur(state)) code = state[0];
+        }
+      }
+      out += row + "\r\n";
+    }
+    tally_ = out;
+    return found;
+  }
+
+  Kind kind_;
+  std::string tally_;
+  std::string current_band_;
+  bool failed_ = false;
+};
+
+struct Case {
+  LineByLine::Kind kind;
+  const char* suffix;
+  void (*rebuild)(Programme&);
+};
+
+constexpr Case kCases[] = {
+    {LineByLine::Kind::Prefix, "_Prefixe.txt", Sous_Programmes::Refait_Prefixes},
+    {LineByLine::Kind::Department, "_Departement.txt", Sous_Programmes::Refait_Departements},
+    {LineByLine::Kind::Locator, "_Locator.txt", Sous_Programmes::Refait_Locators},
+};
+
+class Rebuild : public StationFixture {
+ protected:
+  Rebuild() { ReadyStation("F9QZX"); }
+
+  void Start() {
+    Event([&] { programme->Fenetre<DDFM>(); });
+    messages.Forget();
+  }
+
+  /// The judge's way through a log; the log's lines as the program reads them.
+  LineByLine Judge(const Case& tally, const std::string& log) {
+    LineByLine judge(tally.kind, Read(std::string("FXXXX") + tally.suffix), programme->contexte.Bande_Courante);
+    for (Lecteur_Lignes lines(log); !lines.Fini();)
+      if (!judge.Take(std::string(lines.Suivante()))) break;
+    return judge;
+  }
+};
+
+TEST_F(Rebuild, EqualsARewritingForEveryLine) {
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    for (const char* band : {"4", "16"}) {
+      RandomLog random(seed);
+      random.unknown_bands = seed % 3 == 0;
+      const std::string log = random.Text(60);
+      Write("F9QZX.log", log);
+      settings.Write("DDFM", "Setup F9QZX", "bande Utilisee", band);
+      for (const Case& tally : kCases) {
+        SCOPED_TRACE(std::string(tally.suffix) + " seed " + std::to_string(seed) + " band " + band);
+        Restart();
+        messages.fatal_number = 0;
+        folder.Remove("Temporaire.txt");
+        Start();
+        programme->saisie.Indicatif_Saisi = "F6ABC";
+        const LineByLine judge = Judge(tally, log);
+        Event([&] { tally.rebuild(*programme); });
+        EXPECT_EQ(Read(std::string("F9QZX") + tally.suffix), judge.Tally());
+        EXPECT_EQ(messages.fatal_number, judge.left_over ? 5 : 0);
+        EXPECT_EQ(Read("Temporaire.txt"), judge.left_over.value_or(""));
+        EXPECT_EQ(folder.Exists("Temporaire.txt"), judge.left_over.has_value());
+        if (tally.kind == LineByLine::Kind::Prefix) {
+          EXPECT_EQ(Read("F6ABC_Absent.txt"), judge.absent);
+        }
+      }
+    }
+  }
+}
+
+TEST_F(Rebuild, WhatIsDoneMeanwhileStands) {
+  RandomLog random(7);
+  random.unknown_bands = false;
+  const std::string log = random.Text(40);
+  Write("F9QZX.log", log);
+  Start();
+  LineByLine judge(LineByLine::Kind::Department, Read("FXXXX_Departement.txt"), "1.8 Mhz");
+
+  // Behind every seventh line a department is entered in the main window, and the tally is looked at.
+  int line = 0;
+  std::string seen;
+  windows.OnServe = [&] {
+    if (++line % 7 != 0) return;
+    programme->Recoit([&] { Sous_Programmes::Maj_Departement(*programme, "75", "1", "14 Mhz"); });
+    seen = Read("F9QZX_Departement.txt");
+    EXPECT_FALSE(folder.Exists("Temporaire.txt"));
+  };
+  int taken = 0;
+  std::string expected_seen;
+  for (Lecteur_Lignes lines(log); !lines.Fini();) {
+    judge.Take(std::string(lines.Suivante()));
+    if (++taken % 7 != 0) continue;
+    // The same change in the judge's file: code 1 for department 75 on 14 MHz.
+    std::string tally = judge.Tally();
+    tally[tally.find("\r\n75") + 2 + 7] = '1';
+    LineByLine next(LineByLine::Kind::Department, tally, "1.8 Mhz");
+    judge = next;
+    expected_seen = tally;
+  }
+  Event([&] { Sous_Programmes::Refait_Departements(*programme); });
+  windows.OnServe = nullptr;
+  EXPECT_EQ(seen, expected_seen);
+  EXPECT_EQ(Read("F9QZX_Departement.txt"), judge.Tally());
+}
+
+TEST_F(Rebuild, EndsCleanlyWithTheProgram) {
+  RandomLog random(9);
+  random.unknown_bands = false;
+  const std::string log = random.Text(30);
+  Write("F9QZX.log", log);
+  Start();
+  int served = 0;
+  windows.OnServe = [&] {
+    if (++served == 10) programme->Recoit([&] { programme->Fenetre<DDFM>().UserClose(); });
+  };
+  Event([&] { Sous_Programmes::Refait_Departements(*programme); });
+  EXPECT_TRUE(programme->Termine_Deja());
+  LineByLine judge(LineByLine::Kind::Department, Read("FXXXX_Departement.txt"), "1.8 Mhz");
+  Lecteur_Lignes lines(log);
+  for (int i = 0; i < 10; ++i) judge.Take(std::string(lines.Suivante()));
+  EXPECT_EQ(Read("F9QZX_Departement.txt"), judge.Tally());
+}
+
+TEST_F(Rebuild, AnEmptyLogGivesTheTemplate) {
+  Write("F9QZX_Prefixe.txt", "worked");
+  Start();
+  Event([&] { Sous_Programmes::Refait_Prefixes(*programme); });
+  EXPECT_EQ(Read("F9QZX_Prefixe.txt"), Read("FXXXX_Prefixe.txt"));
+  EXPECT_EQ(messages.TakeMessages(),
+            std::vector<std::string>{"Le fichier Prefixe va etre mis a jour a partir du fichier log"});
+}
+
+TEST_F(Rebuild, TheLocatorRebuildNamesTheTemplateWhateverIsMissing) {
+  WriteLines("F9QZX.log", {RandomLog(3).Line()});
+  Start();
+  disk.FailOn("read F9QZX_Locator.txt", Erreur::Fichier_Introuvable);
+  Event([&] { Sous_Programmes::Refait_Locators(*programme); });
+  EXPECT_EQ(messages.TakeMessages().back(), "Fichier FXXXX_Locator.txt Absent du repertoire");
+  EXPECT_TRUE(programme->Termine_Deja());
+  EXPECT_EQ(messages.fatal_number, 0);
+}
+
+}  // namespace
+}  // namespace vorelio::tests
