@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,20 +42,44 @@ class Disque_Tenu : public Disk {
     bool touche_ = false;
   };
 
-  std::string ReadAll(const std::string& path) override { return Pret().ReadAll(path); }
-  void WriteAll(const std::string& path, std::string_view data) override { Pret().WriteAll(path, data); }
-  void Append(const std::string& path, std::string_view data) override { Pret().Append(path, data); }
-  void Copy(const std::string& from, const std::string& to) override { Pret().Copy(from, to); }
-  void Delete(const std::string& path) override { Pret().Delete(path); }
-  bool Exists(const std::string& path) override { return Pret().Exists(path); }
-  std::uint64_t Size(const std::string& path) override { return Pret().Size(path); }
+  /// Many small changes in one go: while this lives, what is written, copied and deleted stays in memory, and the disk
+  /// gets what has become of each file at the end.
+  class Groupe {
+   public:
+    explicit Groupe(Disque_Tenu& disque);
+    ~Groupe();
+    Groupe(const Groupe&) = delete;
+    Groupe& operator=(const Groupe&) = delete;
+
+    /// Brings the files to the disk; without it the end of the group does, and then no error is told.
+    void Acheve();
+
+   private:
+    Disque_Tenu& disque_;
+  };
+
+  std::string ReadAll(const std::string& path) override;
+  void WriteAll(const std::string& path, std::string_view data) override;
+  void Append(const std::string& path, std::string_view data) override;
+  void Copy(const std::string& from, const std::string& to) override;
+  void Delete(const std::string& path) override;
+  bool Exists(const std::string& path) override;
+  std::uint64_t Size(const std::string& path) override;
 
  private:
+  /// What has become of a file in a group; nothing if it was deleted.
+  using Contenu = std::optional<std::string>;
+
   /// The real disk, with every held file written.
   Disk& Pret();
+  /// What the group has made of a file, null if it hasn't touched it.
+  const Contenu* En_Memoire(const std::string& path) const;
+  void Ecrit_Groupe();
 
   Disk& disk_;
   std::vector<Tenue*> tenues_;
+  bool groupe_ = false;
+  std::map<std::string, Contenu> memoire_;
 };
 
 }  // namespace vorelio

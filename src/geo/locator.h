@@ -9,7 +9,7 @@
 /// constants are those of earlier versions, and stay: distances in old logs were computed with them.
 namespace vorelio::Sous_Programmes {
 
-inline constexpr double Pi_Programme = 3.141592654;  ///< Ten digits on purpose.
+inline constexpr double Pi_Programme = 3.141592654;      ///< Ten digits on purpose.
 inline constexpr double Circonference_Terre = 40076.59;  ///< Kilometres.
 inline constexpr double Rayon_Terre = Circonference_Terre / Pi_Programme / 2;
 inline constexpr double Deg_Vers_Rad = Pi_Programme / 180;

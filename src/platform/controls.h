@@ -168,7 +168,7 @@ class ListControl : public Control {
   /// Selects without a click.
   virtual void TakeIndex(int index);
   void InsertAt(int index, std::string_view text);
-  virtual void EraseAt(int index);
+  void EraseAt(int index);
 
  private:
   std::vector<std::string> items_;
@@ -208,8 +208,6 @@ class ListBox : public ListControl {
   void UserKey(int key);
 
  private:
-  void EraseAt(int index) override;
-
   Kind kind_;
   std::vector<bool> checked_;
 };

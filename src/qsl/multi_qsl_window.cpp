@@ -58,6 +58,8 @@ bool Multi_QSL::Enregistre_Coches() {
   const auto& log = programme_.Fenetre<DDFM>().Liste_QSO;
   auto& saisie = programme_.saisie;
   Lignes_Remplacees remplacees;
+  // A card changes up to two tallies, and each change would wait for the device.
+  Disque_Tenu::Groupe pointages(programme_.Disque());
   bool fait = false;
   try {
     for (int i = 0; i < Liste_QSO.Count(); ++i) {
@@ -70,6 +72,7 @@ bool Multi_QSL::Enregistre_Coches() {
       if (Option1.Set()) Maj_QSL_Envoyee(programme_, remplacees);
       fait = true;
     }
+    pointages.Acheve();
   } catch (...) {
     // The cards before the failure have reached the tallies: they are to be in the log as well.
     remplacees.Applique(programme_);

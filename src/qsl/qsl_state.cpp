@@ -88,11 +88,14 @@ void Lignes_Remplacees::Applique(Programme& programme) {
   if (lignes_.empty()) return;
   const auto a_faire = std::move(lignes_);
   lignes_.clear();
-  Reecrit_Fichier(programme, programme.Chemin_Log(programme.contexte.Station_Indicatif), "Temporaire4.txt",
-                  [&](std::string_view ligne, std::string& sortie) {
-                    const auto place = a_faire.find(std::string(ligne));
-                    sortie.append(place == a_faire.end() ? ligne : std::string_view(place->second));
-                  });
+  const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
+  const std::string temporaire = programme.Chemin("Temporaire4.txt");
+  Ecrit_Temporaire(programme, log, temporaire, [&](std::string_view ligne) {
+    std::string lue(ligne);
+    const auto place = a_faire.find(lue);
+    return place == a_faire.end() ? lue : place->second;
+  });
+  Prend_Temporaire(programme, log, temporaire);
 }
 
 void Maj_QSL_Envoyee(Programme& programme, Lignes_Remplacees& remplacees) { Maj_QSL(programme, kEnvoyee, remplacees); }

@@ -2,12 +2,19 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/programme.h"
 
 /// The callsign directory `Nomenclature.txt`, common to all stations: by 1-based column 1-10 callsign, 12-13 department
 /// in tally form, 15-20 locator.
 namespace vorelio::Sous_Programmes {
+
+/// The fields of a directory line, trimmed; they look into it.
+struct Fiche_Nomenclature {
+  std::string_view indicatif, departement, locator;
+};
+Fiche_Nomenclature Lit_Nomenclature(std::string_view ligne);
 
 /// What the directory knows of a callsign; both outputs are empty if it doesn't. A callsign of more than ten characters
 /// is never found. A missing file is run-time error 53.
@@ -19,8 +26,12 @@ void Cherche_Nomenclature(Programme& programme, std::string_view indicatif, std:
 void Maj_Nomenclature(Programme& programme, std::string_view indicatif, std::string_view departement,
                       std::string_view locator);
 
-/// Fills the list of the window `Fichier_Nomenclature`.
+/// Fills the list of the window `Fichier_Nomenclature`, and forgets `Locator_Repertoire`. A missing file is run-time
+/// error 53.
 void Charge_Nomenclature(Programme& programme);
+
+/// Writes the whole directory.
+void Ecrit_Nomenclature(Programme& programme, const std::vector<std::string>& lignes);
 
 /// The line of a directory entry up to the locator: callsign in eleven columns, department in three.
 std::string Debut_Nomenclature(std::string_view indicatif, std::string_view departement);

@@ -5,9 +5,9 @@
 
 #include "core/programme.h"
 
-/// The departments worked, `<station>_Departement.txt`: a line per department, by 1-based column: 1-2 key ("01" to "95",
-/// "96" and "97" for Corsica), 4-20 one code per band, from 22 on the name. Codes: "0" not worked, "1" worked, "2" QSL
-/// sent, "3" received, "4" both.
+/// The departments worked, `<station>_Departement.txt`: a line per department, by 1-based column: 1-2 key ("01" to
+/// "95", "96" and "97" for Corsica), 4-20 one code per band, from 22 on the name. Codes: "0" not worked, "1" worked,
+/// "2" QSL sent, "3" received, "4" both.
 namespace vorelio::Sous_Programmes {
 
 /// Column of the code of `bande`, 4 to 20; 0 for a band that isn't in the band table.
@@ -20,8 +20,7 @@ void Cherche_Departement(Programme& programme, std::string_view departement, std
 
 /// Writes the one-character `code` into the column of `bande`, on every line with that key, whatever stood there; by
 /// way of `Temporaire2.txt`. A missing file is run-time error 53.
-void Maj_Departement(Programme& programme, std::string_view departement, std::string_view code,
-                     std::string_view bande);
+void Maj_Departement(Programme& programme, std::string_view departement, std::string_view code, std::string_view bande);
 
 /// What a painting of the grid has counted.
 struct Compte_Departements {

@@ -16,6 +16,9 @@ int Colonne_Prefixe(std::string_view bande);
 /// The prefix of a tally line: its first five characters, trimmed. The result looks into `ligne`.
 std::string_view Prefixe_De(std::string_view ligne);
 
+/// The country of a tally line, with the blanks that it has; looks into `ligne`.
+std::string_view Pays_De(std::string_view ligne);
+
 /// Finds the prefix of a callsign; tells the operator of a prefix that is new on `bande`, and of an unknown one, whose
 /// outputs stay as they were. A missing file opens `Gestion_Erreur`, and the procedure never returns.
 void Cherche_Prefixe(Programme& programme, std::string_view indicatif, std::string_view bande, std::string& code,

@@ -33,9 +33,7 @@ int Table_Pointage::Cherche_Debut(std::string_view texte) const {
 void Table_Pointage::Monte_Code(int indice, int colonne, std::string_view etat, int premiere) {
   std::string& ligne = lignes_[static_cast<std::size_t>(indice)];
   if (etat.empty() || Valeur(Coupe(ligne, colonne, 1)) > Valeur(etat)) return;
-  std::string montee;
-  Sous_Programmes::Met_Code(montee, ligne, colonne, etat, premiere);
-  ligne = std::move(montee);
+  ligne = Sous_Programmes::Avec_Code(ligne, colonne, etat, premiere);
 }
 
 void Table_Pointage::Coupe_A_Partir(int indice) {

@@ -1,0 +1,68 @@
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QTimer>
+#include <cstdio>
+#include <cstring>
+
+#include "core/programme.h"
+#include "entry/ddfm.h"
+#include "platform/qt/application.h"
+#include "platform/qt/display.h"
+
+using namespace vorelio;
+
+namespace {
+
+constexpr const char* kHelp =
+    "Vorelio, carnet de trafic pour radioamateurs.\n"
+    "\n"
+    "  vorelio             ouvre le carnet\n"
+    "  vorelio --version   affiche la version\n"
+    "  vorelio --help      affiche cette aide\n"
+    "\n"
+    "Les fichiers des stations sont à côté du programme, ou, si ce dossier est protégé, dans\n"
+    "~/.local/share/Vorelio. Les réglages sont dans ~/.config/Vorelio.\n";
+
+/// Statuses besides 0: a run-time error ended the program, there is no folder to work in, there is no display.
+constexpr int kFatal = 1, kNoFolder = 2, kNoDisplay = 3;
+
+int Run() {
+  SetUpApplication();
+  QString problem;
+  const auto folder = FindProgramFolder(QApplication::applicationDirPath(), DataHome(), problem);
+  if (!folder) {
+    QMessageBox::critical(nullptr, QStringLiteral("Vorelio"), problem);
+    return kNoFolder;
+  }
+  Application application(*folder, SettingsFolder());
+  Programme programme(application.Services());
+  // The start is an event like any other: what it opens is served by the loop below.
+  QTimer::singleShot(0, &application.windows, [&] {
+    application.windows.Deliver(programme, [&] { programme.Fenetre<DDFM>(); });
+  });
+  QApplication::exec();
+  return programme.Erreur_Fatale() != 0 ? kFatal : 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--version") == 0) {
+      std::puts("Vorelio " VORELIO_VERSION);
+      return 0;
+    }
+    if (std::strcmp(argv[i], "--help") == 0) {
+      std::fputs(kHelp, stdout);
+      return 0;
+    }
+  }
+  const QString missing = MissingDisplay();
+  if (!missing.isEmpty()) {
+    std::fprintf(stderr, "%s\n", qUtf8Printable(missing));
+    return kNoDisplay;
+  }
+  QApplication application(argc, argv);
+  return Run();
+}

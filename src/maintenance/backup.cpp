@@ -1,0 +1,48 @@
+#include "maintenance/backup.h"
+
+#include <array>
+#include <string>
+
+#include "core/text.h"
+
+namespace vorelio::Sous_Programmes {
+
+namespace {
+
+/// A file of the station and its copy.
+struct Paire {
+  std::string fichier;
+  std::string copie;
+};
+
+std::string Relit_Chemin(Programme& programme) {
+  auto& chemin = programme.contexte.Chemin_Sauvegarde;
+  chemin = programme.reglages.Station("Chemin Sauvegarde", programme.Chemin_Programme());
+  return chemin;
+}
+
+/// Log and tallies, in the order of their copying.
+std::array<Paire, 4> Fichiers(const Programme& programme, const std::string& base) {
+  return {{{programme.Chemin_Log(programme.contexte.Station_Indicatif), base + ".bak"},
+           {programme.Chemin_Station("_Departement.txt"), base + "_Departement.bak"},
+           {programme.Chemin_Station("_Locator.txt"), base + "_Locator.bak"},
+           {programme.Chemin_Station("_Prefixe.txt"), base + "_Prefixe.bak"}}};
+}
+
+}  // namespace
+
+void Sauvegarde_Auto(Programme& programme) {
+  Disk& disque = programme.Disque();
+  const std::string base = Relit_Chemin(programme);
+  for (const auto& [fichier, copie] : Fichiers(programme, base)) disque.Copy(fichier, copie);
+  // The activities come back through a window of their own, into the settings.
+  disque.Copy(programme.Chemin_Station("_Activite.txt"), base + "_Activite.bak");
+  programme.Message("Sauvegarde automatique effectuée"_t);
+}
+
+void Restaure_Sauvegarde(Programme& programme) {
+  const std::string base = Relit_Chemin(programme);
+  for (const auto& [fichier, copie] : Fichiers(programme, base)) programme.Disque().Copy(copie, fichier);
+}
+
+}  // namespace vorelio::Sous_Programmes

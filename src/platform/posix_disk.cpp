@@ -1,0 +1,270 @@
+#include "platform/posix_disk.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <limits>
+#include <utility>
+
+#include "core/errors.h"
+#include "core/text.h"
+
+namespace vorelio {
+
+namespace {
+
+// The largest file that the program reads into memory. A log of 99,999 contacts has 20 MB.
+constexpr std::uint64_t kLargest = std::numeric_limits<std::int32_t>::max();
+
+// --- Calls ----------------------------------------------------------------------------------------------------------
+
+template <typename Call>
+auto Retry(Call call) {
+  decltype(call()) result;
+  do {
+    result = call();
+  } while (result < 0 && errno == EINTR);
+  return result;
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() { Close(); }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+
+  explicit operator bool() const { return number_ >= 0; }
+  int Number() const { return number_; }
+
+ private:
+  void Close() const {
+    const int error = errno;
+    if (number_ >= 0) close(number_);
+    errno = error;
+  }
+
+  int number_;
+};
+
+// Not blocking: a pipe found in a file's place must not stop the program.
+Descriptor Open(const std::string& name, int flags) {
+  return Descriptor(Retry([&] { return open(name.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666); }));
+}
+
+std::string FolderOf(const std::string& name) {
+  const auto slash = name.find_last_of('/');
+  return slash == std::string::npos ? "." : name.substr(0, slash + 1);
+}
+
+bool IsFolder(const std::string& name) {
+  struct stat status {};
+  return stat(name.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// --- Errors ---------------------------------------------------------------------------------------------------------
+
+/// What a missing folder means to the operation: another error, or the same as a missing file.
+enum class Folder { Told, AsFile };
+
+[[noreturn]] void Fail(int error, const std::string& path, const std::string& name, Folder folder) {
+  switch (error) {
+    case ENOENT:
+      throw Erreur_Execution(folder == Folder::AsFile || IsFolder(FolderOf(name)) ? Erreur::Fichier_Introuvable
+                                                                                  : Erreur::Chemin_Introuvable,
+                             path);
+    case EACCES:
+    case EPERM:
+    case EROFS: throw Erreur_Execution(Erreur::Permission_Refusee, path);
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: throw Erreur_Execution(Erreur::Disque_Plein, path);
+    case EIO:
+    case ENXIO: throw Erreur_Execution(Erreur::Disque_Non_Pret, path);
+    default: throw Erreur_Execution(Erreur::Acces_Chemin, path);
+  }
+}
+
+// --- Writing --------------------------------------------------------------------------------------------------------
+// Each returns 0, or the system's error.
+
+int Error(int result) { return result < 0 ? errno : 0; }
+
+int WriteAt(const Descriptor& file, std::string_view data, std::size_t offset) {
+  while (!data.empty()) {
+    const auto written =
+        Retry([&] { return pwrite(file.Number(), data.data(), data.size(), static_cast<off_t>(offset)); });
+    if (written <= 0) return written < 0 ? errno : EIO;
+    data.remove_prefix(static_cast<std::size_t>(written));
+    offset += static_cast<std::size_t>(written);
+  }
+  return 0;
+}
+
+int WriteAtEnd(const Descriptor& file, std::string_view data) {
+  while (!data.empty()) {
+    const auto written = Retry([&] { return write(file.Number(), data.data(), data.size()); });
+    if (written <= 0) return written < 0 ? errno : EIO;
+    data.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return 0;
+}
+
+// Some file systems can't take room beforehand; they tell when the growth is written.
+int TakeRoom(const Descriptor& file, std::size_t size) {
+  if (size == 0) return 0;
+  const int error =
+      Error(Retry([&] { return fallocate(file.Number(), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)); }));
+  return error == EOPNOTSUPP || error == ENOSYS || error == EINVAL ? 0 : error;
+}
+
+int Cut(const Descriptor& file, std::size_t size) {
+  return Error(Retry([&] { return ftruncate(file.Number(), static_cast<off_t>(size)); }));
+}
+
+// Devices, and some file systems, have nothing to flush and say EINVAL.
+int Flush(const Descriptor& file) {
+  const int error = Error(Retry([&] { return fsync(file.Number()); }));
+  return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP ? 0 : error;
+}
+
+// A new name is safe once its folder is. A folder that may be used but not read can't be flushed.
+int FlushFolder(const std::string& name) {
+  const Descriptor folder = Open(FolderOf(name), O_RDONLY | O_DIRECTORY);
+  return folder ? Flush(folder) : 0;
+}
+
+/// A file that is open for a change, and what is needed to leave it as it was.
+class Target {
+ public:
+  Target(const std::string& path, std::string name, int flags) : path_(path), name_(std::move(name)), file_(-1) {
+    file_ = Open(name_, O_WRONLY | flags);
+    if (!file_ && errno == ENOENT) {
+      file_ = Open(name_, O_WRONLY | O_CREAT | flags);
+      created_ = static_cast<bool>(file_);
+    }
+    if (!file_) Fail(errno, path_, name_, Folder::Told);
+    struct stat status {};
+    Check(Error(fstat(file_.Number(), &status)));
+    regular_ = S_ISREG(status.st_mode);
+    if (regular_) size_ = static_cast<std::size_t>(status.st_size);
+  }
+
+  const Descriptor& File() const { return file_; }
+  bool Regular() const { return regular_; }
+  std::size_t OldSize() const { return size_; }
+
+  /// Raises an error. A file that this change has made goes again.
+  void Check(int error) const {
+    if (error == 0) return;
+    if (created_) unlink(name_.c_str());
+    Fail(error, path_, name_, Folder::Told);
+  }
+
+  /// The same, for a step before which the old contents still stand.
+  void CheckOrRestore(int error) const {
+    if (error != 0 && regular_ && !created_) Cut(file_, size_);
+    Check(error);
+  }
+
+  void FlushName() const {
+    if (created_) Check(FlushFolder(name_));
+  }
+
+ private:
+  const std::string& path_;
+  std::string name_;
+  Descriptor file_;
+  bool created_ = false;
+  bool regular_ = false;
+  std::size_t size_ = 0;
+};
+
+}  // namespace
+
+// --- PosixDisk ------------------------------------------------------------------------------------------------------
+
+PosixDisk::PosixDisk(std::string root_text, std::string root_bytes)
+    : root_text_(std::move(root_text)), root_bytes_(std::move(root_bytes)) {}
+
+std::string PosixDisk::SystemPath(const std::string& path) const {
+  // The system would take the path up to the zero for another file.
+  if (path.find('\0') != std::string::npos) throw Erreur_Execution(Erreur::Acces_Chemin, path);
+  const std::size_t root = root_text_.size();
+  if (root == 0 || !path.starts_with(root_text_) || (path.size() > root && path[root] != '/')) return Vers_Utf8(path);
+  return root_bytes_ + Vers_Utf8(std::string_view(path).substr(root));
+}
+
+std::string PosixDisk::ReadAll(const std::string& path) {
+  const std::string name = SystemPath(path);
+  const Descriptor file = Open(name, O_RDONLY);
+  if (!file) Fail(errno, path, name, Folder::AsFile);
+  struct stat status {};
+  if (fstat(file.Number(), &status) < 0) Fail(errno, path, name, Folder::AsFile);
+  if (!S_ISREG(status.st_mode) || static_cast<std::uint64_t>(status.st_size) > kLargest)
+    throw Erreur_Execution(Erreur::Acces_Chemin, path);
+
+  // One byte more than it should hold, to see its end without a further turn.
+  std::string data(static_cast<std::size_t>(status.st_size) + 1, '\0');
+  std::size_t filled = 0;
+  for (;;) {
+    const auto count = Retry([&] { return read(file.Number(), data.data() + filled, data.size() - filled); });
+    if (count < 0) Fail(errno, path, name, Folder::AsFile);
+    if (count == 0) break;
+    filled += static_cast<std::size_t>(count);
+    if (filled > kLargest) throw Erreur_Execution(Erreur::Acces_Chemin, path);
+    if (filled == data.size()) data.resize(std::max<std::size_t>(2 * data.size(), 4096));
+  }
+  data.resize(filled);
+  return data;
+}
+
+void PosixDisk::WriteAll(const std::string& path, std::string_view data) {
+  const Target target(path, SystemPath(path), 0);
+  if (target.Regular()) target.CheckOrRestore(TakeRoom(target.File(), data.size()));
+  // The growth first: until it stands, the old contents can be had back by cutting it off.
+  const std::size_t overlap = std::min(target.OldSize(), data.size());
+  target.CheckOrRestore(WriteAt(target.File(), data.substr(overlap), overlap));
+  target.Check(WriteAt(target.File(), data.substr(0, overlap), 0));
+  if (target.Regular()) target.Check(Cut(target.File(), data.size()));
+  target.Check(Flush(target.File()));
+  target.FlushName();
+}
+
+void PosixDisk::Append(const std::string& path, std::string_view data) {
+  const Target target(path, SystemPath(path), O_APPEND);
+  target.CheckOrRestore(WriteAtEnd(target.File(), data));
+  target.CheckOrRestore(Flush(target.File()));
+  target.FlushName();
+}
+
+void PosixDisk::Copy(const std::string& from, const std::string& to) { WriteAll(to, ReadAll(from)); }
+
+void PosixDisk::Delete(const std::string& path) {
+  const std::string name = SystemPath(path);
+  // The system says EPERM or EISDIR for a folder, depending on its kind.
+  if (IsFolder(name)) throw Erreur_Execution(Erreur::Acces_Chemin, path);
+  if (unlink(name.c_str()) < 0) Fail(errno, path, name, Folder::AsFile);
+}
+
+bool PosixDisk::Exists(const std::string& path) {
+  struct stat status {};
+  return stat(SystemPath(path).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+std::uint64_t PosixDisk::Size(const std::string& path) {
+  const std::string name = SystemPath(path);
+  struct stat status {};
+  if (stat(name.c_str(), &status) < 0) Fail(errno, path, name, Folder::AsFile);
+  if (S_ISDIR(status.st_mode)) throw Erreur_Execution(Erreur::Acces_Chemin, path);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+}  // namespace vorelio

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QSettings>
+#include <QString>
+
+#include "platform/posix_disk.h"
+#include "platform/qt/appearance.h"
+#include "platform/qt/program_folder.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_messages.h"
+#include "platform/qt/qt_settings.h"
+#include "platform/qt/qt_windows.h"
+#include "platform/qt/window_extras.h"
+
+namespace vorelio {
+
+/// Names, icon and language of the QApplication. To be called once, behind its making.
+void SetUpApplication();
+
+/// The user's folder for settings, XDG_CONFIG_HOME/Vorelio, and for data, XDG_DATA_HOME.
+QString SettingsFolder();
+QString DataHome();
+
+/// The services of the platform on Qt, joined.
+class Application {
+ public:
+  /// The station's settings go to Vorelio.ini of the folder, those of the windows to Fenetres.ini.
+  Application(const ProgramFolder& folder, const QString& settings_folder);
+
+  Platform Services();
+
+  QSettings memory;
+  Appearance appearance;
+  WindowExtras extras;
+  QtWindows windows;
+  QtMessages messages;
+  QtFileDialogs dialogs;
+  QtSettings settings;
+  QtClock clock;
+  PosixDisk disk;
+
+ private:
+  std::string directory_;
+};
+
+}  // namespace vorelio

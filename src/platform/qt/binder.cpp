@@ -1,0 +1,240 @@
+#include "platform/qt/binder.h"
+
+#include <QAction>
+#include <QFile>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QUiLoader>
+#include <algorithm>
+
+#include "platform/qt/caption_views.h"
+#include "platform/qt/combo_view.h"
+#include "platform/qt/grid_cell.h"
+#include "platform/qt/list_view.h"
+#include "platform/qt/multi_line_view.h"
+#include "platform/qt/other_views.h"
+#include "platform/qt/qt_text.h"
+#include "platform/qt/text_field_view.h"
+
+// Outside of any namespace: what this calls is.
+static void InitResources() { Q_INIT_RESOURCE(resources); }
+
+namespace vorelio {
+
+namespace {
+
+/// Makes the view if `shown` is of the widget class that goes with this kind of control.
+template <typename V, typename W, typename C>
+View* ViewFor(C* control, QObject* shown, Gate& gate) {
+  auto* widget = qobject_cast<W*>(shown);
+  return control && widget ? new V(*control, *widget, gate) : nullptr;
+}
+
+View* MakeView(Control& control, QObject* shown, Gate& gate) {
+  if (auto* field = dynamic_cast<TextField*>(&control))
+    return field->MultiLine() ? ViewFor<MultiLineView, QPlainTextEdit>(field, shown, gate)
+                              : ViewFor<TextFieldView, QLineEdit>(field, shown, gate);
+  if (auto* list = dynamic_cast<ListBox*>(&control)) {
+    auto* rows = dynamic_cast<RowsView*>(shown);
+    return rows ? new ListView(*list, *rows, gate) : nullptr;
+  }
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) return ViewFor<ComboView, QComboBox>(combo, shown, gate);
+  if (auto* label = dynamic_cast<Label*>(&control)) return ViewFor<LabelView, QLabel>(label, shown, gate);
+  if (auto* frame = dynamic_cast<Frame*>(&control)) return ViewFor<FrameView, QWidget>(frame, shown, gate);
+  if (auto* button = dynamic_cast<Button*>(&control))
+    return ViewFor<ClickViewOf<Button>, QPushButton>(button, shown, gate);
+  if (auto* box = dynamic_cast<CheckBox*>(&control))
+    return ViewFor<ClickViewOf<CheckBox>, QAbstractButton>(box, shown, gate);
+  if (auto* option = dynamic_cast<OptionButton*>(&control))
+    return ViewFor<ClickViewOf<OptionButton>, QRadioButton>(option, shown, gate);
+  if (auto* item = dynamic_cast<MenuItem*>(&control)) return ViewFor<MenuView, QAction>(item, shown, gate);
+  return nullptr;
+}
+
+/// The array's name and the element's index of a control's name, or an empty name.
+struct Element {
+  QString array;
+  int index = 0;
+};
+
+Element ElementOf(const QString& name) {
+  static const QRegularExpression shape(QStringLiteral("^(\\w+)\\((\\d+)\\)$"));
+  const auto match = shape.match(name);
+  return match.hasMatch() ? Element{match.captured(1), match.captured(2).toInt()} : Element{};
+}
+
+bool ForInput(const QObject& object) {
+  static constexpr const char* kKinds[] = {"QLineEdit", "QPlainTextEdit", "QComboBox", "QAbstractItemView",
+                                           "QAbstractButton"};
+  return std::any_of(std::begin(kKinds), std::end(kKinds), [&](const char* kind) { return object.inherits(kind); });
+}
+
+/// A part that a widget has made for itself, such as the field of a combo box.
+bool InnerPart(const QObject& object) {
+  if (object.objectName().startsWith(QLatin1String("qt_"))) return true;
+  for (const QObject* above = object.parent(); above; above = above->parent())
+    if (ForInput(*above) || above->inherits("QAbstractScrollArea")) return true;
+  return false;
+}
+
+/// The words that stand for a widget where it can't be seen.
+QString SpokenName(const QWidget& widget, const Control& control) {
+  if (!widget.accessibleName().isEmpty()) return widget.accessibleName();
+  for (const QLabel* label : widget.window()->findChildren<QLabel*>())
+    if (label->buddy() == &widget) return WithoutMnemonic(label->text()).trimmed();
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return WithoutMnemonic(button->text());
+  if (const auto* captioned = dynamic_cast<const Captioned*>(&control); captioned && !captioned->Caption().empty())
+    return ToQt(captioned->Caption()).trimmed();
+  return ToQt(control.Name()).replace(u'_', u' ');
+}
+
+}  // namespace
+
+Binding::Binding(Form& form, QWidget& window, Gate& gate) {
+  for (Control* control : form.Controls()) Bind(*control, window, gate);
+  LookForStrangers(form, window);
+  ShowFilledMenus(window);
+}
+
+Binding::~Binding() {
+  for (const auto& [control, view] : views_) view->Release();
+}
+
+QObject* Binding::Find(const QString& name, QWidget& window) const {
+  if (QObject* found = window.findChild<QObject*>(name)) return found;
+  const Element element = ElementOf(name);
+  if (element.array.isEmpty()) return nullptr;
+  return window.findChild<QObject*>(QStringLiteral("%1_%2").arg(element.array).arg(element.index));
+}
+
+/// An element of an array for which the window has a holder only: a cell is made in it, in rows of as many as its
+/// property "colonnes" says.
+QObject* Binding::Fill(Control& control, QWidget& window) {
+  const Element element = ElementOf(ToQt(control.Name()));
+  auto* holder = element.array.isEmpty() ? nullptr : window.findChild<QWidget*>(element.array);
+  if (!holder) return nullptr;
+  const int columns = std::max(1, holder->property("colonnes").toInt());
+  auto* grid = qobject_cast<QGridLayout*>(holder->layout());
+  if (!grid) {
+    delete holder->layout();
+    grid = new QGridLayout(holder);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(holder->property("ecart").toInt());
+  }
+  QWidget* cell = nullptr;
+  if (dynamic_cast<TextField*>(&control)) cell = new GridCell(*holder, columns);
+  if (dynamic_cast<Label*>(&control)) cell = new CaptionLabel(holder);
+  if (dynamic_cast<CheckBox*>(&control)) cell = new QPushButton(holder);
+  if (!cell) return nullptr;
+  cell->setObjectName(ToQt(control.Name()));
+  cell->setAccessibleName(holder->accessibleName() + u' ' + QString::number(element.index));
+  grid->addWidget(cell, grid->count() / columns, grid->count() % columns);
+  return cell;
+}
+
+void Binding::Bind(Control& control, QWidget& window, Gate& gate) {
+  if (auto* timer = dynamic_cast<Timer*>(&control)) {
+    views_[&control] = new TimerView(*timer, *new QTimer(&window), gate);
+    return;
+  }
+  QObject* shown = Find(ToQt(control.Name()), window);
+  if (!shown) shown = Fill(control, window);
+  if (!shown) {
+    problems_.push_back(control.Name() + ": no widget");
+    return;
+  }
+  View* view = MakeView(control, shown, gate);
+  if (!view) {
+    problems_.push_back(control.Name() + ": the widget is a " + shown->metaObject()->className());
+    return;
+  }
+  views_[&control] = view;
+  auto* widget = qobject_cast<QWidget*>(shown);
+  if (!widget) return;
+  for (const auto property : {Property::Enabled, Property::Colour}) view->Changed(property);
+  if (!control.Visible()) view->Changed(Property::Visible);
+  widget->setAccessibleName(SpokenName(*widget, control));
+}
+
+void Binding::LookForStrangers(const Form& form, QWidget& window) {
+  const auto known = [&](const QString& name) {
+    const auto of_array = [&](const Control* control) {
+      const Element element = ElementOf(ToQt(control->Name()));
+      return element.array == name || QStringLiteral("%1_%2").arg(element.array).arg(element.index) == name;
+    };
+    return form.Find(FromQt(name)) ||
+           std::any_of(form.Controls().begin(), form.Controls().end(), of_array);
+  };
+  for (const QObject* object : window.findChildren<QObject*>()) {
+    const QString name = object->objectName();
+    const bool entry = object->inherits("QAction") && !name.isEmpty() && !name.startsWith(QLatin1String("titre_")) &&
+                       !static_cast<const QAction*>(object)->menu();
+    const bool label = object->inherits("QLabel") && !name.startsWith(QLatin1String("titre_"));
+    if (!(ForInput(*object) || entry || label) || InnerPart(*object) || known(name)) continue;
+    problems_.push_back(FromQt(name) + ": no control behind this " + object->metaObject()->className());
+  }
+}
+
+QWidget* Binding::WidgetOf(const Control& control) const {
+  const View* view = Of(control);
+  return view ? qobject_cast<QWidget*>(&view->Shown()) : nullptr;
+}
+
+QAction* Binding::ActionOf(const Control& control) const {
+  const View* view = Of(control);
+  return view ? qobject_cast<QAction*>(&view->Shown()) : nullptr;
+}
+
+View* Binding::Of(const Control& control) const {
+  const auto place = views_.find(&control);
+  return place == views_.end() ? nullptr : place->second;
+}
+
+// --- Loading --------------------------------------------------------------------------------------------------------
+
+namespace {
+
+/// Makes this program's own kinds in place of the plain ones that the .ui files name.
+class Loader : public QUiLoader {
+ public:
+  // The files name nothing but widgets of Qt's own: a search for Designer's plugins would only cost time.
+  Loader() { clearPluginPaths(); }
+
+  QWidget* createWidget(const QString& kind, QWidget* parent, const QString& name) override {
+    QWidget* own = nullptr;
+    if (kind == QLatin1String("QListView")) own = new RowsView(parent);
+    if (kind == QLatin1String("QLabel")) own = new CaptionLabel(parent);
+    if (!own) return QUiLoader::createWidget(kind, parent, name);
+    own->setObjectName(name);
+    return own;
+  }
+};
+
+}  // namespace
+
+void UseResources() { InitResources(); }
+
+QWidget* LoadWindow(const QString& form, QString& problem) {
+  UseResources();
+  QFile file(QStringLiteral(":/ui/") + form.toLower() + QStringLiteral(".ui"));
+  if (!file.open(QIODevice::ReadOnly)) {
+    problem = file.fileName() + QStringLiteral(": ") + file.errorString();
+    return nullptr;
+  }
+  Loader loader;
+  QWidget* window = loader.load(&file);
+  if (!window) problem = loader.errorString();
+  // A .ui file can put labels into a status bar, but not say where.
+  if (auto* main = qobject_cast<QMainWindow*>(window))
+    for (QLabel* label : main->statusBar()->findChildren<QLabel*>()) main->statusBar()->addPermanentWidget(label);
+  return window;
+}
+
+}  // namespace vorelio

@@ -1,0 +1,106 @@
+#include "platform/qt/caption_views.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "platform/qt/qt_text.h"
+
+namespace vorelio {
+
+QString CaptionToShow(const QString& designed, const std::string& caption) {
+  const QString words = ToQt(caption);
+  return WithoutMnemonic(designed) == words ? designed : Escaped(words);
+}
+
+// --- Label ----------------------------------------------------------------------------------------------------------
+
+LabelView::LabelView(Label& label, QLabel& shown, Gate& gate) : ViewOf(label, shown, gate) {
+  shown.setTextFormat(Qt::PlainText);
+  Show(Property::Caption);
+}
+
+void LabelView::Show(Property property) {
+  if (property != Property::Caption) return;
+  // Blanks that once centred a caption by eye give way where the design centres it.
+  const QString words = ToQt(control_.Caption());
+  const QString shown = shown_.property("rogne").toBool() ? words.trimmed() : words;
+  if (WithoutMnemonic(shown_.text()) == shown) return;
+  shown_.setText(shown_.buddy() ? Escaped(shown) : shown);
+}
+
+void LabelView::ShowColour() {
+  PaintField(shown_, control_.Colour());
+  if (auto* plate = dynamic_cast<CaptionLabel*>(&shown_)) plate->SetPlate(!SystemColour(control_.Colour()));
+}
+
+void CaptionLabel::SetPlate(bool plate) {
+  plate_ = plate;
+  update();
+}
+
+void CaptionLabel::paintEvent(QPaintEvent* event) {
+  if (plate_) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Window));
+    painter.drawRoundedRect(rect(), 4, 4);
+  }
+  QLabel::paintEvent(event);
+}
+
+// --- Frame ----------------------------------------------------------------------------------------------------------
+
+FrameView::FrameView(Frame& frame, QWidget& shown, Gate& gate) : ViewOf(frame, shown, gate) {
+  Show(Property::Caption);
+}
+
+void FrameView::Show(Property property) {
+  if (property != Property::Caption) return;
+  const QString words = ToQt(control_.Caption());
+  if (auto* box = qobject_cast<QGroupBox*>(&shown_)) {
+    box->setTitle(Escaped(words.trimmed()));
+  } else if (auto* title = shown_.findChild<QLabel*>(QStringLiteral("titre_") + shown_.objectName())) {
+    title->setText(words);
+  }
+  shown_.setAccessibleName(words.trimmed());
+}
+
+// --- Controls to click on -------------------------------------------------------------------------------------------
+
+ClickView::ClickView(Captioned& control, QAbstractButton& button, Gate& gate)
+    : WidgetView(control, button, gate), captioned_(control), button_(button), designed_(button.text()) {
+  button_.setText(CaptionToShow(designed_, control.Caption()));
+  connect(&button, &QAbstractButton::clicked, this, [this] { TakeClick(); });
+}
+
+void ClickView::TakeClick() {
+  if (!Bound()) return;
+  Deliver([this] { Click(); });
+  // The widget has ticked itself; what is true is the model's word.
+  if (Bound()) Show(Property::Checked);
+}
+
+void ClickView::Show(Property property) {
+  if (property == Property::Caption) button_.setText(CaptionToShow(designed_, captioned_.Caption()));
+  if (property == Property::Checked && button_.isCheckable()) {
+    // A button of a Qt group refuses to be cleared alone; the groups are the model's.
+    const bool exclusive = button_.autoExclusive();
+    button_.setAutoExclusive(false);
+    button_.setChecked(Checked());
+    button_.setAutoExclusive(exclusive);
+  }
+}
+
+bool ClickView::eventFilter(QObject* watched, QEvent* event) {
+  if (Bound() && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      TakeClick();
+      return true;
+    }
+  }
+  return WidgetView::eventFilter(watched, event);
+}
+
+}  // namespace vorelio

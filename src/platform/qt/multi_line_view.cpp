@@ -1,0 +1,105 @@
+#include "platform/qt/multi_line_view.h"
+
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+#include <QTextCursor>
+#include <algorithm>
+
+#include "platform/qt/qt_text.h"
+#include "platform/qt/typing.h"
+
+namespace vorelio {
+
+MultiLineView::MultiLineView(TextField& field, QPlainTextEdit& edit, Gate& gate) : ViewOf(field, edit, gate) {
+  edit.setTabChangesFocus(true);
+  edit.viewport()->installEventFilter(this);
+  connect(&edit, &QPlainTextEdit::textChanged, this, [this] { TakeEdit(); });
+  ShowText();
+}
+
+void MultiLineView::Show(Property property) {
+  if (property == Property::Text) ShowText();
+  if (property == Property::Text || property == Property::Caret) ShowCaret();
+}
+
+int MultiLineView::ToModel(int place) const {
+  const QString text = shown_.toPlainText().left(place);
+  return place + static_cast<int>(text.count(u'\n'));
+}
+
+int MultiLineView::ToWidget(int place) const {
+  const std::string& text = control_.Text();
+  const auto end = text.begin() + std::min<std::ptrdiff_t>(place, static_cast<std::ptrdiff_t>(text.size()));
+  return place - static_cast<int>(std::count(text.begin(), end, '\r'));
+}
+
+void MultiLineView::ShowText() {
+  const QScopedValueRollback<bool> showing(showing_, true);
+  shown_.setReadOnly(control_.ReadOnly());
+  const QString text = ToQt(control_.Text()).remove(u'\r');
+  if (text == shown_.toPlainText()) return;
+  // An edit block, unlike setPlainText, leaves the widget's undo what came before.
+  QTextCursor all(shown_.document());
+  all.select(QTextCursor::Document);
+  all.insertText(text);
+}
+
+void MultiLineView::ShowCaret() {
+  const QScopedValueRollback<bool> showing(showing_, true);
+  QTextCursor cursor = shown_.textCursor();
+  cursor.setPosition(ToWidget(control_.Caret()));
+  cursor.setPosition(ToWidget(control_.Caret() + control_.SelectionLength()), QTextCursor::KeepAnchor);
+  if (cursor.position() != shown_.textCursor().position() || cursor.anchor() != shown_.textCursor().anchor())
+    shown_.setTextCursor(cursor);
+}
+
+void MultiLineView::TellCaret() {
+  if (!Bound() || showing_) return;
+  const QTextCursor cursor = shown_.textCursor();
+  const int caret = ToModel(cursor.selectionStart());
+  const int length = ToModel(cursor.selectionEnd()) - caret;
+  if (caret != control_.Caret() || length != control_.SelectionLength())
+    Deliver([&] { control_.UserCaret(caret, length); });
+}
+
+void MultiLineView::TakeEdit() {
+  if (showing_ || !Bound()) return;
+  const QString text = shown_.toPlainText();
+  if (const auto bytes = FromQtExact(QString(text).replace(u'\n', QStringLiteral("\r\n")))) {
+    const int caret = ToModel(shown_.textCursor().position());
+    Deliver([&] { control_.UserText(*bytes, caret); });
+  } else {
+    gate_.Notice(shown_, RefusedCharacter(FirstForeign(text)));
+  }
+  if (!Bound()) return;
+  ShowText();
+  ShowCaret();
+}
+
+void MultiLineView::TakeKey(int key) {
+  if (!Bound()) return;
+  TellCaret();
+  Deliver([&] { control_.UserKey(key); });
+}
+
+bool MultiLineView::eventFilter(QObject* watched, QEvent* event) {
+  if (!Bound()) return false;
+  const KeyTaker take = [this](int key) { TakeKey(key); };
+  if (event->type() == QEvent::KeyPress) {
+    const QString typed = TypedCharacters(static_cast<const QKeyEvent&>(*event));
+    if (!typed.isEmpty()) {
+      Type(typed, gate_, shown_, take);
+      return true;
+    }
+  } else if (event->type() == QEvent::InputMethod) {
+    if (auto rest = TakeCommit(static_cast<const QInputMethodEvent&>(*event), gate_, shown_, take)) {
+      QCoreApplication::sendEvent(&shown_, &*rest);
+      return true;
+    }
+  } else if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease) {
+    QMetaObject::invokeMethod(this, [this] { TellCaret(); }, Qt::QueuedConnection);
+  }
+  return ViewOf::eventFilter(watched, event);
+}
+
+}  // namespace vorelio

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QAction>
+#include <QTimer>
+
+#include "platform/qt/view.h"
+
+namespace vorelio {
+
+/// A menu entry. A menu all of whose entries are hidden is hidden with them.
+class MenuView : public View {
+ public:
+  MenuView(MenuItem& item, QAction& action, Gate& gate);
+
+  void Changed(Property property) override;
+
+ private:
+  MenuItem& item_;
+  QAction& action_;
+  QString designed_;
+};
+
+/// Runs a timer of the logic while it is enabled and its form is loaded.
+class TimerView : public View {
+ public:
+  TimerView(Timer& timer, QTimer& clock, Gate& gate);
+
+  void Changed(Property property) override;
+
+ protected:
+  void Released() override { clock_.stop(); }
+
+ private:
+  Timer& timer_;
+  QTimer& clock_;
+};
+
+/// Hides the menus of a window whose entries are all hidden, and shows the others.
+void ShowFilledMenus(QWidget& window);
+
+}  // namespace vorelio

@@ -1,0 +1,81 @@
+#include "platform/qt/program_folder.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "platform/qt/qt_text.h"
+
+namespace vorelio {
+
+namespace {
+
+bool HoldsTemplates(const QDir& folder) {
+  return std::all_of(TemplateFiles().begin(), TemplateFiles().end(),
+                     [&](const QString& name) { return folder.exists(name); });
+}
+
+ProgramFolder Described(const QDir& folder) {
+  const QString path = folder.absolutePath();
+  return {path, FromQt(path), QFile::encodeName(path).toStdString()};
+}
+
+/// Copies the files of a folder and of those in it; what exists stays. By way of another name, for a copy that is cut
+/// short not to pass for the whole.
+bool Seed(const QDir& from, const QDir& to, QString& problem) {
+  QDirIterator files(from.path(), QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) {
+    const QString name = from.relativeFilePath(files.next());
+    const QString target = to.filePath(name);
+    if (QFile::exists(target)) continue;
+    const QString partial = target + QStringLiteral(".neuf");
+    QFile::remove(partial);
+    const bool copied = QDir().mkpath(QFileInfo(target).path()) && QFile::copy(files.filePath(), partial) &&
+                        QFile::setPermissions(partial, QFile::permissions(partial) | QFile::WriteOwner) &&
+                        QFile::rename(partial, target);
+    if (copied) continue;
+    problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+const QStringList& TemplateFiles() {
+  static const QStringList names = {
+      QStringLiteral("FXXXX.log"), QStringLiteral("FXXXX_Departement.txt"), QStringLiteral("FXXXX_Locator.txt"),
+      QStringLiteral("FXXXX_Prefixe.txt"), QStringLiteral("Nomenclature.txt")};
+  return names;
+}
+
+std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QString& data_home, QString& problem) {
+  const QDir own(program);
+  if (HoldsTemplates(own) && QFileInfo(own.path()).isWritable()) return Described(own);
+
+  const QDir folder(QDir(data_home).filePath(QStringLiteral("Vorelio")));
+  if (!QDir().mkpath(folder.path())) {
+    problem = QStringLiteral("Impossible de créer le dossier %1.").arg(folder.path());
+    return std::nullopt;
+  }
+  // Beside the program stand the program and whatever else is installed there: only the templates are taken then.
+  const QDir shared(own.filePath(QStringLiteral("../share/vorelio")));
+  if (HoldsTemplates(shared)) {
+    if (!Seed(shared, folder, problem)) return std::nullopt;
+  } else if (HoldsTemplates(own)) {
+    for (const QString& name : TemplateFiles()) {
+      const QString target = folder.filePath(name);
+      if (QFile::exists(target) || QFile::copy(own.filePath(name), target)) continue;
+      problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
+      return std::nullopt;
+    }
+    for (const QString& name : TemplateFiles())
+      QFile::setPermissions(folder.filePath(name),
+                            QFile::permissions(folder.filePath(name)) | QFile::WriteOwner | QFile::ReadOwner);
+  }
+  return Described(folder);
+}
+
+}  // namespace vorelio

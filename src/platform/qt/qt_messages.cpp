@@ -1,0 +1,70 @@
+#include "platform/qt/qt_messages.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+
+#include "platform/qt/qt_text.h"
+#include "platform/qt/qt_windows.h"
+
+namespace vorelio {
+
+namespace {
+
+/// The words of the standard buttons, whatever language the desktop speaks: the texts above them are French.
+void NameButtons(QMessageBox& box) {
+  const struct {
+    QMessageBox::StandardButton button;
+    QString words;
+  } names[] = {{QMessageBox::Yes, QStringLiteral("&Oui")},
+               {QMessageBox::No, QStringLiteral("&Non")},
+               {QMessageBox::Ok, QStringLiteral("OK")},
+               {QMessageBox::Cancel, QStringLiteral("&Annuler")}};
+  for (const auto& [button, words] : names)
+    if (QAbstractButton* shown = box.button(button)) shown->setText(words);
+}
+
+QMessageBox::Icon Sign(Icon icon) {
+  switch (icon) {
+    case Icon::Plain: return QMessageBox::Information;
+    case Icon::Question: return QMessageBox::Question;
+    case Icon::Critical: return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+int QtMessages::Run(const std::string& text, Icon icon, QMessageBox::StandardButtons buttons,
+                    QMessageBox::StandardButton first, QMessageBox::StandardButton escape,
+                    const QString& only_button) {
+  windows_.ShowPending();
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(QStringLiteral("Vorelio"));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+  box.setIcon(Sign(icon));
+  box.setStandardButtons(buttons);
+  box.setDefaultButton(first);
+  box.setEscapeButton(escape);
+  NameButtons(box);
+  if (!only_button.isEmpty()) box.button(first)->setText(only_button);
+  return Execute(box);
+}
+
+void QtMessages::Show(const std::string& text) {
+  Run(text, Icon::Plain, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool QtMessages::Ask(const std::string& text, Buttons buttons, Icon icon) {
+  if (buttons == Buttons::YesNo)
+    return Run(text, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No) == QMessageBox::Yes;
+  // What asks with OK and Cancel is about to overwrite something: Enter alone doesn't.
+  return Run(text, icon, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel, QMessageBox::Cancel) ==
+         QMessageBox::Ok;
+}
+
+void QtMessages::Fatal(int, const std::string& text) {
+  Run(text, Icon::Critical, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, QStringLiteral("&Quitter"));
+}
+
+}  // namespace vorelio

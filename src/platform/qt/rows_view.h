@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QListView>
+#include <functional>
+#include <vector>
+
+namespace vorelio {
+
+/// A list of many rows of one height in a fixed-pitch font, with column titles above it that stay over their columns.
+/// It selects nothing by itself: what the user does is told, and what is selected is shown.
+///
+/// The titles come from the widget's property "titres": "N°@4;Date@7;...", each with its 1-based column.
+class RowsView : public QListView {
+ public:
+  explicit RowsView(QWidget* parent = nullptr);
+
+  /// A row was pressed, or reached with the keys.
+  std::function<void(int row)> OnSelect;
+  /// A row was double-clicked, -1 in the empty space below the rows.
+  std::function<void(int row)> OnDouble;
+  std::function<void(int row)> OnTick;
+  /// Before an action of the user is made out: the rows must be up to date.
+  std::function<void()> OnBefore;
+  /// Rows as wide as this many characters.
+  void SetWidest(int characters);
+
+  /// Takes over font and titles, after either has changed.
+  void Arrange();
+
+  /// Left of the text of a row, in pixels from the row's left edge.
+  static constexpr int kMargin = 8;
+
+  QSize RowSize() const;
+  /// Where the text of a row starts.
+  int TextStart() const;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  class Titles;
+
+  int RowAt(QPoint place) const;
+  bool InTick(QPoint place) const;
+  void Select(int row);
+  int Page() const;
+
+  Titles* titles_ = nullptr;
+  int widest_ = 0;
+};
+
+}  // namespace vorelio

@@ -1,0 +1,268 @@
+#include "platform/qt/style.h"
+
+#include <QAbstractScrollArea>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+#include <algorithm>
+
+namespace vorelio {
+
+namespace {
+
+constexpr qreal kRadius = 4;
+constexpr qreal kCardRadius = 8;
+constexpr int kFieldMargin = 7;
+constexpr int kArrowWidth = 22;
+constexpr int kCardMargin = 12;
+
+bool Enabled(const QStyleOption& option) { return option.state.testFlag(QStyle::State_Enabled); }
+
+/// A rounded field: its ground, and a border that tells the focus.
+void DrawField(QPainter& painter, const QRect& rect, const QStyleOption& option, bool focused, qreal radius) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor base = option.palette.color(QPalette::Base);
+  // A field that waits for its turn is quieter, whatever its colour.
+  const QColor ground = Enabled(option) ? base : Blend(base, option.palette.color(QPalette::Window), 0.35);
+  QColor border = option.palette.color(QPalette::Mid);
+  if (focused) border = option.palette.color(QPalette::Active, QPalette::Highlight);
+  const qreal width = focused ? 2 : 1;
+  const qreal inset = width / 2;
+  painter.setBrush(ground);
+  painter.setPen(QPen(border, width));
+  painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), radius, radius);
+  painter.restore();
+}
+
+void DrawButton(QPainter& painter, const QStyleOption& option, bool principal) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QPalette& palette = option.palette;
+  const bool pressed = option.state & (QStyle::State_Sunken | QStyle::State_On);
+  const bool hovered = Enabled(option) && option.state.testFlag(QStyle::State_MouseOver);
+  const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+  QColor ground = palette.color(QPalette::Button);
+  QColor border = palette.color(QPalette::Mid);
+  if (principal && Enabled(option)) {
+    ground = palette.color(QPalette::Active, QPalette::Highlight);
+    border = ground;
+  }
+  if (hovered) ground = Blend(ground, palette.color(QPalette::Highlight), principal ? 0 : 0.10);
+  if (hovered && principal) ground = ground.lighter(110);
+  if (pressed) ground = ground.darker(112);
+  if (!Enabled(option)) {
+    ground = Blend(ground, palette.color(QPalette::Window), 0.6);
+    border = Blend(border, palette.color(QPalette::Window), 0.4);
+  }
+  painter.setBrush(ground);
+  painter.setPen(QPen(border, 1));
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  if (focused) {
+    const QColor ring = principal ? palette.color(QPalette::HighlightedText) : palette.color(QPalette::Highlight);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(ring, 1.6));
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(2.5, 2.5, -2.5, -2.5), kRadius - 1, kRadius - 1);
+  }
+  painter.restore();
+}
+
+/// The box of a check box, or the ring of an option button.
+void DrawIndicator(QPainter& painter, const QStyleOption& option, bool round) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QPalette& palette = option.palette;
+  const bool on = option.state.testFlag(QStyle::State_On);
+  const int side = std::min(option.rect.width(), option.rect.height());
+  QRectF place(0, 0, side - 1, side - 1);
+  place.moveCenter(QRectF(option.rect).center());
+  const QColor ink = Enabled(option) ? palette.color(QPalette::Active, QPalette::Highlight) : palette.color(QPalette::Mid);
+  const bool edged = option.state & (QStyle::State_HasFocus | QStyle::State_MouseOver);
+  painter.setBrush(on ? ink : palette.color(QPalette::Base));
+  painter.setPen(QPen(on || edged ? ink : palette.color(QPalette::Dark), 1));
+  painter.drawRoundedRect(place, round ? side / 2.0 : 3, round ? side / 2.0 : 3);
+  if (on && round) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.color(QPalette::HighlightedText));
+    painter.drawEllipse(place.center(), side * 0.2, side * 0.2);
+  } else if (on) {
+    painter.setPen(QPen(palette.color(QPalette::HighlightedText), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF middle = place.center();
+    const QPointF points[] = {middle + QPointF(-0.26, 0.02) * side, middle + QPointF(-0.07, 0.22) * side,
+                              middle + QPointF(0.27, -0.20) * side};
+    painter.drawPolyline(points, 3);
+  }
+  painter.restore();
+}
+
+void DrawCard(QPainter& painter, const QRect& rect, const QPalette& palette) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(palette.color(QPalette::Light));
+  painter.setPen(QPen(palette.color(QPalette::Midlight), 1));
+  painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), kCardRadius, kCardRadius);
+  painter.restore();
+}
+
+void DrawArrow(QPainter& painter, const QRect& rect, const QColor& colour) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const QPointF middle = QRectF(rect).center() + QPointF(-1, 0);
+  const QPointF points[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2.2), middle + QPointF(4, -2)};
+  painter.drawPolyline(points, 3);
+  painter.restore();
+}
+
+int TitleHeight(const QStyleOptionGroupBox& box) { return box.text.isEmpty() ? 0 : box.fontMetrics.height() + 6; }
+
+bool Marked(const QWidget* widget, const char* property) { return widget && widget->property(property).toBool(); }
+
+}  // namespace
+
+QColor Blend(const QColor& one, const QColor& other, double share) {
+  const auto mix = [share](int a, int b) { return static_cast<int>(a * (1 - share) + b * share + 0.5); };
+  return QColor(mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue()));
+}
+
+VorelioStyle::VorelioStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void VorelioStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+  switch (element) {
+    case PE_PanelLineEdit:
+    case PE_FrameLineEdit:
+      // The field of a combo box stands on the box's own ground.
+      if (widget && qobject_cast<const QComboBox*>(widget->parentWidget())) return;
+      DrawField(*painter, option->rect, *option, option->state.testFlag(State_HasFocus),
+                Marked(widget, "cellule") ? 3 : kRadius);
+      return;
+    case PE_PanelButtonCommand: DrawButton(*painter, *option, Marked(widget, "principal")); return;
+    case PE_FrameFocusRect:
+      // Buttons and fields show the focus in their own frame.
+      if (widget && (widget->inherits("QPushButton") || widget->inherits("QComboBox"))) return;
+      break;
+    case PE_IndicatorRadioButton: DrawIndicator(*painter, *option, true); return;
+    case PE_IndicatorCheckBox: DrawIndicator(*painter, *option, false); return;
+    case PE_FrameGroupBox: DrawCard(*painter, option->rect, option->palette); return;
+    case PE_Frame:
+      if (widget && widget->inherits("QAbstractScrollArea")) {
+        painter->save();
+        painter->setPen(option->palette.color(widget->hasFocus() ? QPalette::Highlight : QPalette::Mid));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        painter->restore();
+        return;
+      }
+      break;
+    case PE_FrameStatusBarItem: return;
+    default: break;
+  }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void VorelioStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  if (element == CE_ComboBoxLabel) {
+    const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (!box || box->editable) return;
+    const QRect place = proxy()->subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget);
+    painter->setPen(box->palette.color(QPalette::Text));
+    painter->drawText(place.adjusted(2, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                      box->fontMetrics.elidedText(box->currentText, Qt::ElideRight, place.width()));
+    return;
+  }
+  if (element == CE_PushButtonLabel && Marked(widget, "principal") && Enabled(*option)) {
+    QStyleOptionButton button(*qstyleoption_cast<const QStyleOptionButton*>(option));
+    button.palette.setColor(QPalette::ButtonText, button.palette.color(QPalette::Active, QPalette::HighlightedText));
+    QProxyStyle::drawControl(element, &button, painter, widget);
+    return;
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void VorelioStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const {
+  if (control == CC_ComboBox) {
+    DrawField(*painter, option->rect, *option, option->state.testFlag(State_HasFocus), kRadius);
+    const QRect arrow = proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
+    DrawArrow(*painter, arrow, option->palette.color(QPalette::Text));
+    return;
+  }
+  if (control == CC_GroupBox) {
+    const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (!box) return;
+    DrawCard(*painter, box->rect, box->palette);
+    if (box->text.isEmpty()) return;
+    painter->save();
+    QFont bold = painter->font();
+    bold.setBold(true);
+    painter->setFont(bold);
+    const QRect title = proxy()->subControlRect(CC_GroupBox, box, SC_GroupBoxLabel, widget);
+    proxy()->drawItemText(painter, title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, box->palette,
+                          Enabled(*box), box->text, QPalette::WindowText);
+    painter->restore();
+    return;
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect VorelioStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                   const QWidget* widget) const {
+  if (control == CC_ComboBox) {
+    const QRect all = option->rect;
+    if (part == SC_ComboBoxArrow) return {all.right() - kArrowWidth, all.top(), kArrowWidth, all.height()};
+    if (part == SC_ComboBoxEditField) return all.adjusted(kFieldMargin - 2, 1, -kArrowWidth - 1, -1);
+    if (part == SC_ComboBoxFrame) return all;
+  }
+  if (const auto* box = control == CC_GroupBox ? qstyleoption_cast<const QStyleOptionGroupBox*>(option) : nullptr) {
+    if (part == SC_GroupBoxFrame) return box->rect;
+    const QRect inner = box->rect.adjusted(kCardMargin, 6, -kCardMargin, -6);
+    if (part == SC_GroupBoxLabel) return {inner.left(), inner.top(), inner.width(), TitleHeight(*box)};
+    if (part == SC_GroupBoxContents) return box->rect.adjusted(2, TitleHeight(*box) + 4, -2, -2);
+  }
+  return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QSize VorelioStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                     const QWidget* widget) const {
+  switch (type) {
+    case CT_LineEdit: {
+      if (Marked(widget, "cellule")) return size + QSize(4, 4);
+      return {size.width() + 2 * kFieldMargin, option->fontMetrics.height() + 10};
+    }
+    case CT_ComboBox: return {size.width() + kArrowWidth + 2 * kFieldMargin, option->fontMetrics.height() + 10};
+    case CT_PushButton: {
+      const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+      const int text = button ? option->fontMetrics.size(Qt::TextShowMnemonic, button->text).width() : size.width();
+      return {std::max(text + 26, 76), option->fontMetrics.height() + 12};
+    }
+    case CT_GroupBox: {
+      const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+      return size + QSize(4, box ? TitleHeight(*box) + 6 : 6);
+    }
+    default: return QProxyStyle::sizeFromContents(type, option, size, widget);
+  }
+}
+
+int VorelioStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  switch (metric) {
+    case PM_DefaultFrameWidth:
+      if (qobject_cast<const QLineEdit*>(widget)) return 2;
+      return 1;
+    case PM_ComboBoxFrameWidth: return 2;
+    default: return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+int VorelioStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* answer) const {
+  if (hint == SH_ComboBox_Popup) return 0;
+  // Disabled fields keep their black text on the model's colour: no light edge around it.
+  if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+}  // namespace vorelio

@@ -1,0 +1,46 @@
+#include "tallies/tally_file.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/text.h"
+#include "entry/ddfm.h"
+
+namespace vorelio::Sous_Programmes {
+
+bool A_Un_Code(std::string_view ligne, int colonne) { return static_cast<int>(ligne.size()) >= colonne; }
+
+std::string Avec_Code(std::string_view ligne, int colonne, std::string_view code, int premiere) {
+  std::string neuve(Coupe(ligne, 1, colonne - 1));
+  const auto remplit = [&](int jusque, char signe) {
+    neuve.resize(std::max(neuve.size(), static_cast<std::size_t>(jusque - 1)), signe);
+  };
+  remplit(premiere, ' ');
+  remplit(colonne, '0');
+  return neuve.append(Complete(code, 1)).append(Coupe(ligne, colonne + 1));
+}
+
+bool Couleur_Code(std::string_view code, Couleur& couleur) {
+  constexpr std::array kCouleurs = {kDpt_Contacte, kDpt_QSL_Envoyee, kDpt_QSL_Recue, kDpt_Confirme};
+  if (code.size() != 1 || code[0] < '1' || code[0] > '4') return false;
+  couleur = kCouleurs[static_cast<std::size_t>(code[0] - '1')];
+  return true;
+}
+
+void Ecrit_Temporaire(Programme& programme, const std::string& chemin, const std::string& temporaire,
+                      const Change_Ligne& change) {
+  const std::string texte = programme.Disque().ReadAll(chemin);
+  std::string neuf;
+  // A little more than it was, for lines that had LF alone.
+  neuf.reserve(texte.size() + texte.size() / 16);
+  for (Lecteur_Lignes lignes(texte); !lignes.Fini();) neuf.append(change(lignes.Suivante())).append(kFin_De_Ligne);
+  programme.Disque().WriteAll(temporaire, neuf);
+}
+
+void Prend_Temporaire(Programme& programme, const std::string& chemin, const std::string& temporaire) {
+  programme.Disque().Delete(chemin);
+  programme.Disque().Copy(temporaire, chemin);
+  programme.Disque().Delete(temporaire);
+}
+
+}  // namespace vorelio::Sous_Programmes

@@ -1,0 +1,134 @@
+#include "maintenance/backup.h"
+
+#include <gtest/gtest.h>
+
+#include "maintenance/backup_settings_window.h"
+#include "support/station_fixture.h"
+
+namespace vorelio::tests {
+namespace {
+
+using namespace Sous_Programmes;
+using Lines = std::vector<std::string>;
+
+constexpr const char* kSection = "Setup F6ABC";
+
+class BackupTest : public StationFixture {
+ protected:
+  BackupTest() {
+    ReadyStation();
+    Write("F6ABC.log", "log");
+    Write("F6ABC_Activite.txt", "activities");
+    // A base path isn't a folder: the endings are joined to it.
+    Write("sauve/here", "");
+    settings.Write("DDFM", kSection, "Chemin Sauvegarde", folder.File("sauve/F6"));
+  }
+
+  void Save() {
+    Event([&] { Sauvegarde_Auto(*programme); });
+  }
+};
+
+TEST_F(BackupTest, FiveFilesInOrderOverOldCopies) {
+  Write("sauve/F6.bak", "older and longer");
+  programme->contexte.Chemin_Sauvegarde = "elsewhere";
+  Save();
+  EXPECT_EQ(messages.TakeMessages(), Lines{"Sauvegarde automatique effectu\xE9"
+                                           "e"});
+  EXPECT_EQ(disk.Log(),
+            (Lines{"copy F6ABC.log sauve/F6.bak", "copy F6ABC_Departement.txt sauve/F6_Departement.bak",
+                   "copy F6ABC_Locator.txt sauve/F6_Locator.bak", "copy F6ABC_Prefixe.txt sauve/F6_Prefixe.bak",
+                   "copy F6ABC_Activite.txt sauve/F6_Activite.bak"}));
+  EXPECT_EQ(Read("sauve/F6.bak"), "log");
+  EXPECT_EQ(Read("sauve/F6_Activite.bak"), "activities");
+  EXPECT_EQ(programme->contexte.Chemin_Sauvegarde, folder.File("sauve/F6"));
+}
+
+TEST_F(BackupTest, WithoutASettingTheCopiesLieBesideTheProgramsFolder) {
+  settings.Remove("DDFM", kSection, "Chemin Sauvegarde");
+  disk.FailOn("copy F6ABC_Prefixe.txt", Erreur::Disque_Plein);
+  Save();
+  EXPECT_EQ(programme->contexte.Chemin_Sauvegarde, folder.Path());
+  EXPECT_EQ(posix_disk.ReadAll(folder.Path() + ".bak"), "log");
+  for (const char* ending : {".bak", "_Departement.bak", "_Locator.bak"}) posix_disk.Delete(folder.Path() + ending);
+}
+
+TEST_F(BackupTest, AFailureIsSeenWithTheFilesBeforeItCopied) {
+  folder.Remove("F6ABC_Locator.txt");
+  Save();
+  EXPECT_EQ(programme->Erreur_Fatale(), 53);
+  EXPECT_EQ(messages.TakeMessages(), Lines{});
+  EXPECT_TRUE(folder.Exists("sauve/F6_Departement.bak"));
+  EXPECT_FALSE(folder.Exists("sauve/F6_Prefixe.bak"));
+
+  Restart();
+  ReadyStation();
+  settings.Write("DDFM", kSection, "Chemin Sauvegarde", folder.File("nowhere/F6"));
+  Save();
+  EXPECT_EQ(programme->Erreur_Fatale(), 76);
+}
+
+TEST_F(BackupTest, RestoringBringsLogAndTalliesBack) {
+  const Lines tallies = {"F6ABC.log", "F6ABC_Departement.txt", "F6ABC_Locator.txt", "F6ABC_Prefixe.txt"};
+  Save();
+  Lines before;
+  for (const auto& name : tallies) {
+    before.push_back(Read(name));
+    Write(name, "spoilt");
+  }
+  Write("F6ABC_Activite.txt", "stays");
+  disk.Forget();
+  Event([&] { Restaure_Sauvegarde(*programme); });
+  for (std::size_t i = 0; i < tallies.size(); ++i) EXPECT_EQ(Read(tallies[i]), before[i]) << tallies[i];
+  EXPECT_EQ(Read("F6ABC_Activite.txt"), "stays");
+  EXPECT_EQ(disk.Log(),
+            (Lines{"copy sauve/F6.bak F6ABC.log", "copy sauve/F6_Departement.bak F6ABC_Departement.txt",
+                   "copy sauve/F6_Locator.bak F6ABC_Locator.txt", "copy sauve/F6_Prefixe.bak F6ABC_Prefixe.txt"}));
+
+  folder.Remove("sauve/F6.bak");
+  Event([&] { Restaure_Sauvegarde(*programme); });
+  EXPECT_EQ(programme->Erreur_Fatale(), 53);
+}
+
+TEST_F(BackupTest, SettingsAreSavedByTheirButtonAlone) {
+  const auto open = [&]() -> Delta_QSO& {
+    Event([&] { programme->Fenetre<Delta_QSO>().Show(); });
+    return programme->Fenetre<Delta_QSO>();
+  };
+  Delta_QSO& window = open();
+  EXPECT_EQ(window.Title(), "Parametres de sauvegarde");
+  EXPECT_EQ(window.Val_Delta.Text(), "10");
+  EXPECT_EQ(window.Le_Chemin.Caption(), folder.File("sauve/F6"));
+
+  const auto choose = [&](const std::string& path) {
+    dialogs.Choose(path);
+    Event([&] { window.New_Rep.UserClick(); });
+  };
+  choose("");
+  EXPECT_EQ(messages.TakeMessages(), Lines{"selectionnez un fichier ou quitter"});
+  EXPECT_EQ(window.Le_Chemin.Caption(), folder.File("sauve/F6"));
+  choose("/mnt/cle/F6ABC");
+  EXPECT_EQ(window.Le_Chemin.Caption(), "/mnt/cle/F6ABC");
+  ASSERT_EQ(dialogs.calls.size(), 2U);
+  EXPECT_TRUE(dialogs.calls[0].save);
+  EXPECT_EQ(dialogs.calls[0].name, "F6ABC");
+  EXPECT_EQ(settings.Get(kSection, "Chemin Sauvegarde"), folder.File("sauve/F6"));
+
+  // Opened anew, the window shows what is saved.
+  Event([&] { window.UserClose(); });
+  Delta_QSO& again = open();
+  EXPECT_EQ(again.Le_Chemin.Caption(), folder.File("sauve/F6"));
+  dialogs.Choose("/mnt/cle/F6ABC");
+  Event([&] {
+    again.New_Rep.UserClick();
+    again.Val_Delta.UserText("beaucoup", 0);
+    again.Command1.UserClick();
+  });
+  EXPECT_EQ(programme->Ouverte<Delta_QSO>(), nullptr);
+  EXPECT_EQ(settings.Get(kSection, "Delta Sauvegarde"), "beaucoup");
+  EXPECT_EQ(settings.Get(kSection, "Chemin Sauvegarde"), "/mnt/cle/F6ABC");
+  EXPECT_EQ(programme->contexte.Delta_Sauvegarde, "beaucoup");
+}
+
+}  // namespace
+}  // namespace vorelio::tests

@@ -1,0 +1,199 @@
+#include "tallies/department_tally.h"
+
+#include <gtest/gtest.h>
+
+#include "core/bands.h"
+#include "core/error_window.h"
+#include "entry/ddfm.h"
+#include "support/station_fixture.h"
+
+namespace vorelio::tests {
+namespace {
+
+using namespace Sous_Programmes;
+using Lines = std::vector<std::string>;
+
+constexpr const char* kFile = "F6ABC_Departement.txt";
+
+class DepartmentTallyTest : public StationFixture {
+ protected:
+  DepartmentTallyTest() { ReadyStation(); }
+
+  void Look(std::string_view key, std::string_view band) {
+    Event([&] { Cherche_Departement(*programme, key, code, name, band, line); });
+  }
+  void Update(std::string_view key, std::string_view code_to_write, std::string_view band) {
+    Event([&] { Maj_Departement(*programme, key, code_to_write, band); });
+  }
+  void Paint(std::string_view band) {
+    Event([&] { counts = Affiche_Departements(*programme, band, total); });
+  }
+  /// Starts the program, so that its grid is there.
+  TextField& Cell(int index) { return programme->Fenetre<DDFM>().Dpt(index); }
+
+  std::string code = "?", name = "old name", line = "old line";
+  int total = -1;
+  Compte_Departements counts;
+};
+
+TEST_F(DepartmentTallyTest, BandsHaveTheirColumns) {
+  EXPECT_EQ(Colonne_Departement("1.8 Mhz"), 4);
+  EXPECT_EQ(Colonne_Departement("144 Mhz"), 14);
+  EXPECT_EQ(Colonne_Departement("24 Ghz"), 20);
+  EXPECT_EQ(Colonne_Departement("50Mhz"), 0);
+  EXPECT_EQ(Colonne_Departement(""), 0);
+}
+
+TEST_F(DepartmentTallyTest, LookUpTakesTheFirstLineOfAKey) {
+  WriteLines(kFile, {"01 01234567890123456   Ain", "06 0000000003       x", "06 00000000040000000 Second", "07"});
+  Look("01", "24 Ghz");
+  EXPECT_EQ(code + "|" + name + "|" + line, "6|Ain|01 01234567890123456   Ain");
+  Look("06", "50 Mhz");
+  EXPECT_EQ(code + "|" + name, "3|");
+  Look("07", "50 Mhz");
+  EXPECT_EQ(code + "|" + name + "|" + line, "||07");
+}
+
+TEST_F(DepartmentTallyTest, LookUpLeavesWhatItDoesNotFind) {
+  WriteLines(kFile, {"01 00000000000000000 Ain"});
+  Look("99", "14 Mhz");
+  EXPECT_EQ(code + "|" + name + "|" + line, "?|old name|old line");
+  // A band outside the table leaves the code, and gives the rest.
+  Look("01", "70 Mhz");
+  EXPECT_EQ(code + "|" + name, "?|Ain");
+  EXPECT_EQ(disk.Log(), (Lines{std::string("read ") + kFile, std::string("read ") + kFile}));
+
+  Write(kFile, "");
+  Look("01", "14 Mhz");
+  EXPECT_EQ(code, "?");
+  folder.Remove(kFile);
+  Look("01", "14 Mhz");
+  EXPECT_EQ(programme->Erreur_Fatale(), 53);
+}
+
+TEST_F(DepartmentTallyTest, UpdateChangesOneColumnOfEveryLineOfTheKey) {
+  Write(kFile,
+        "06 00000000030000000 Alpes-Maritimes\r\n"
+        "6\n"
+        "\r\n"
+        "06\n"
+        "06 00\r\n"
+        "07 00000000000000000 Ard\xE8"
+        "che\n"
+        "06 00000000000000000 last");
+  Update("06", "2", "50 Mhz");
+  EXPECT_EQ(Read(kFile),
+            "06 00000000020000000 Alpes-Maritimes\r\n"
+            "6\r\n"
+            "\r\n"
+            "06 0000000002\r\n"
+            "06 0000000002\r\n"
+            "07 00000000000000000 Ard\xE8"
+            "che\r\n"
+            "06 00000000020000000 last\r\n");
+  EXPECT_EQ(disk.Log(), (Lines{"read F6ABC_Departement.txt", "write Temporaire2.txt", "delete F6ABC_Departement.txt",
+                               "copy Temporaire2.txt F6ABC_Departement.txt", "delete Temporaire2.txt"}));
+  EXPECT_FALSE(folder.Exists("Temporaire2.txt"));
+}
+
+TEST_F(DepartmentTallyTest, UpdateTouchesEachBandAtBothEndsOfTheTable) {
+  WriteLines(kFile, {"01 00000000000000000 Ain"});
+  Update("01", "1", "1.8 Mhz");
+  Update("01", "4", "24 Ghz");
+  EXPECT_EQ(Read(kFile), "01 10000000000000004 Ain\r\n");
+}
+
+TEST_F(DepartmentTallyTest, UpdateWithoutALineOrAColumnRewritesTheFileAsItIs) {
+  const std::string before = Read(kFile);
+  Update("99", "1", "14 Mhz");
+  EXPECT_EQ(Read(kFile), before);
+  Update("01", "1", "70 Mhz");
+  EXPECT_EQ(Read(kFile), before);
+  EXPECT_EQ(programme->Erreur_Fatale(), 0);
+}
+
+TEST_F(DepartmentTallyTest, AFullDiskLeavesTheTally) {
+  const std::string before = Read(kFile);
+  disk.FailOn("write Temporaire2.txt", Erreur::Disque_Plein);
+  Update("01", "1", "14 Mhz");
+  EXPECT_EQ(programme->Erreur_Fatale(), 61);
+  EXPECT_EQ(Read(kFile), before);
+}
+
+TEST_F(DepartmentTallyTest, AFailingCopyLeavesTheTemporaryFile) {
+  disk.FailOn("copy", Erreur::Disque_Plein);
+  Update("01", "1", "14 Mhz");
+  EXPECT_FALSE(folder.Exists(kFile));
+  EXPECT_EQ(Line("Temporaire2.txt", 1), "01 00001000000000000 Ain");
+}
+
+TEST_F(DepartmentTallyTest, PaintingColoursCellsAndCounts) {
+  WriteLines(kFile, {"01 00001000000000000 Ain", "02 00002000000000000", "03 00003000000000000", "04 00004000000000000",
+                     "05 00000000000000000", "06 0000 000000000000 blank", "07 00009000000000000",
+                     "2a 00001000000000000", "96 00002000000000000", "2B 00004000000000000", "08 000", "", "XX"});
+  Event([&] { Cell(50).SetColour(kDpt_Confirme); });
+  Paint("14 Mhz");
+  // Counted: every code that isn't "0", blank or unknown ones too. A line that ends before its code has none.
+  EXPECT_EQ(total, 9);
+  EXPECT_EQ(Cell(1).Colour(), 0xC0C0FFU);
+  EXPECT_EQ(Cell(2).Colour(), 0x00FFFFU);
+  EXPECT_EQ(Cell(3).Colour(), 0xFFFF80U);
+  EXPECT_EQ(Cell(4).Colour(), 0x80FF80U);
+  for (const int plain : {0, 5, 6, 7, 8, 50, 99}) EXPECT_EQ(Cell(plain).Colour(), kFond_Fenetre) << plain;
+  EXPECT_EQ(Cell(96).Colour(), 0x00FFFFU);
+  EXPECT_EQ(Cell(97).Colour(), 0x80FF80U);
+  // The four counts are of cells: both lines of Corsica's south are one.
+  EXPECT_EQ(counts.sans, 1);
+  EXPECT_EQ(counts.envoyees, 2);
+  EXPECT_EQ(counts.recues, 1);
+  EXPECT_EQ(counts.confirmees, 2);
+  EXPECT_EQ(programme->Erreur_Fatale(), 0);
+
+  Paint("18 Mhz");
+  EXPECT_EQ(total, 0);
+  EXPECT_EQ(Cell(1).Colour(), kFond_Fenetre);
+  EXPECT_EQ(counts.sans + counts.envoyees + counts.recues + counts.confirmees, 0);
+}
+
+TEST_F(DepartmentTallyTest, ABandOutsideTheTableCountsEveryLineAndPaintsNone) {
+  WriteLines(kFile, {"01 11111111111111111 Ain", "02 11111111111111111", "2A 11111111111111111", ""});
+  Event([&] { Cell(0); });
+  Paint("70 Mhz");
+  EXPECT_EQ(total, 3);
+  EXPECT_EQ(Cell(1).Colour(), kFond_Fenetre);
+}
+
+TEST_F(DepartmentTallyTest, AKeyThatIsNoCellEndsThePaintingAsError13) {
+  for (const char* key : {"XX", "2C", "-1"}) {
+    SCOPED_TRACE(key);
+    Restart();
+    WriteLines(kFile, {std::string(key) + " 00000000000000000"});
+    Event([&] { Cell(0); });
+    Paint("14 Mhz");
+    EXPECT_EQ(programme->Erreur_Fatale(), 0);
+    WriteLines(kFile, {std::string(key) + " 00001000000000000"});
+    Paint("14 Mhz");
+    EXPECT_EQ(programme->Erreur_Fatale(), 13);
+  }
+}
+
+TEST_F(DepartmentTallyTest, PaintingWithoutTheFileOpensTheErrorWindow) {
+  Event([&] { Cell(0); });
+  folder.Remove(kFile);
+  std::string missing;
+  windows.OnWait = [&] {
+    Event([&] {
+      auto& window = programme->Fenetre<Gestion_Erreur>();
+      missing = window.Err_Departement.Caption();
+      window.Quitter.UserClick();
+    });
+  };
+  Paint("14 Mhz");
+  EXPECT_EQ(missing, "_Departement.txt");
+  EXPECT_TRUE(programme->Termine_Deja());
+  EXPECT_EQ(programme->Erreur_Fatale(), 0);
+  EXPECT_EQ(total, -1);
+}
+
+}  // namespace
+}  // namespace vorelio::tests

@@ -1,0 +1,84 @@
+// Starts the program as its own main does, on a folder and with settings apart from the user's, and ends it as soon as
+// the main window is on the screen and waits for a key. Prints how long that took, in milliseconds.
+//   bench_start prepare FOLDER CONTACTS    makes a ready station in the empty folder
+//   bench_start start FOLDER
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QTimer>
+#include <QWindow>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "core/station_files.h"
+#include "entry/ddfm.h"
+#include "log_maker.h"
+#include "platform/posix_disk.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_file_dialogs.h"
+#include "platform/qt/qt_messages.h"
+#include "platform/qt/qt_settings.h"
+#include "platform/qt/qt_windows.h"
+#include "support/ready_station.h"
+#include "support/scratch_folder.h"
+
+namespace {
+
+using namespace vorelio;
+
+constexpr const char* kStation = "F6ABC";
+constexpr int kGive_Up_ms = 60000;
+
+/// The program on its real services.
+struct RealRun {
+  explicit RealRun(const std::string& folder)
+      : settings(QString::fromStdString(folder + "/vorelio.ini")),
+        programme({settings, messages, dialogs, clock, windows, disk, folder, '/'}) {}
+
+  QtWindows windows;
+  QtMessages messages{windows};
+  QtFileDialogs dialogs{windows, messages};
+  QtClock clock;
+  QtSettings settings;
+  PosixDisk disk;
+  Programme programme;
+};
+
+void Prepare(const std::string& folder, int contacts) {
+  tests::CopyTemplates(folder);
+  RealRun run(folder);
+  Sous_Programmes::Cree_Fichiers_Station(run.programme, kStation);
+  tests::SeedStationSettings(run.settings, folder, '/', kStation, "JN33BB");
+  run.disk.WriteAll(folder + "/" + kStation + ".log", bench::MakeLog(contacts));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto begin = std::chrono::steady_clock::now();
+  QApplication application(argc, argv);
+  const QStringList words = QCoreApplication::arguments();
+  if (words.size() == 4 && words[1] == QStringLiteral("prepare")) {
+    Prepare(words[2].toStdString(), words[3].toInt());
+    return 0;
+  }
+  if (words.size() != 3) return 2;
+
+  RealRun run(words[2].toStdString());
+  QTimer::singleShot(0, &application,
+                     [&] { run.windows.Deliver(run.programme, [&] { run.programme.Fenetre<DDFM>(); }); });
+  QTimer::singleShot(kGive_Up_ms, &application, [] { QCoreApplication::exit(1); });
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &application, [&] {
+    const DDFM* main = run.programme.Ouverte<DDFM>();
+    const QWidget* widget = main ? run.windows.WindowOf(*main) : nullptr;
+    if (!widget || !widget->windowHandle() || !widget->windowHandle()->isExposed()) return;
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
+    std::printf("%.3f\n", time.count());
+    std::fflush(stdout);
+    // What the end of the program costs is another matter.
+    std::_Exit(0);
+  });
+  return QApplication::exec();
+}

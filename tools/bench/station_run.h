@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+
+#include "core/programme.h"
+#include "entry/ddfm.h"
+#include "platform/posix_disk.h"
+#include "support/doubles.h"
+#include "support/scratch_folder.h"
+
+namespace vorelio::bench {
+
+inline constexpr const char* kStation = "F6ABC";
+
+enum class DateMode { Automatic, Manual };
+
+/// A started program on a scratch folder, with a station whose log holds `contacts`: the product's own logic and disk,
+/// without a screen.
+class StationRun {
+ public:
+  StationRun(int contacts, DateMode mode);
+
+  Programme& Run() { return programme_; }
+  DDFM& Main() { return programme_.Fenetre<DDFM>(); }
+  /// Absolute path of a file of the station.
+  std::string File(const std::string& ending) const { return folder_.File(kStation + ending); }
+  /// Copies a file of the template station over the station's.
+  void Restore(const std::string& ending);
+
+  /// Types the callsign, without its Enter.
+  void TypeCallsign(const std::string& callsign);
+  /// The Enter behind the callsign: what the log, the prefixes and the directory know of it.
+  void LookUp();
+  /// Drops what has been typed.
+  void Cancel();
+  /// Goes through the whole chain of a contact, up to the button that saves it.
+  void FillIn();
+  void Save();
+
+ private:
+  void MustStillRun() const;
+
+  tests::ScratchFolder folder_;
+  tests::MapSettings settings_;
+  tests::RecordedMessages messages_;
+  tests::QueuedDialogs dialogs_;
+  tests::FixedClock clock_;
+  tests::SilentWindows windows_;
+  PosixDisk disk_;
+  Programme programme_;
+};
+
+}  // namespace vorelio::bench

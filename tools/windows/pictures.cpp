@@ -1,0 +1,270 @@
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+#include "core/bands.h"
+#include "core/error_window.h"
+#include "core/loading_window.h"
+#include "core/log_line.h"
+#include "core/station_form.h"
+#include "core/text.h"
+#include "entry/ddfm.h"
+#include "maintenance/add_activity_window.h"
+#include "maintenance/backup_settings_window.h"
+#include "maintenance/restore_activities_window.h"
+#include "platform/qt/application.h"
+#include "platform/qt/qt_text.h"
+#include "qsl/multi_qsl_window.h"
+#include "qsl/qsl_window.h"
+#include "tallies/add_prefix_window.h"
+#include "tallies/department_tally.h"
+#include "tallies/directory_window.h"
+#include "tallies/prefix_statistics_window.h"
+#include "tallies/prefix_tally.h"
+#include "tallies/progress_window.h"
+
+/// Saves a picture of every window, light and dark, with a made-up station and its log.
+using namespace vorelio;
+
+namespace {
+
+constexpr const char* kStation = "F9QZX";
+constexpr int kContacts = 240;
+
+/// Where the pictures go, and how the next one is called.
+struct Album {
+  QDir folder;
+  QString theme;
+
+  void Save(QWidget& window, const QString& name) const {
+    const QString file = folder.filePath(name + u'-' + theme + QStringLiteral(".png"));
+    if (!window.grab().save(file)) std::fprintf(stderr, "%s: impossible d'écrire\n", qUtf8Printable(file));
+  }
+};
+
+/// Takes a picture of each box instead of waiting for its answer.
+class PicturedMessages : public QtMessages {
+ public:
+  PicturedMessages(QtWindows& windows, const Album& album) : QtMessages(windows), album_(album) {}
+
+ protected:
+  int Execute(QMessageBox& box) override {
+    box.show();
+    QCoreApplication::processEvents();
+    album_.Save(box, QStringLiteral("boite-%1").arg(++count_));
+    return box.standardButton(box.defaultButton());
+  }
+
+ private:
+  const Album& album_;
+  int count_ = 0;
+};
+
+// --- The station ----------------------------------------------------------------------------------------------------
+
+template <std::size_t N>
+std::string Turn(const std::array<const char*, N>& words, int n) {
+  return De_Utf8(words[static_cast<std::size_t>(n) % N]);
+}
+
+std::string Contact(int n) {
+  static constexpr std::array kCalls = {"F9AAA", "F9BCD/P", "DL9ZZZ", "F9EFG", "I9QQQ", "F9HIJ", "EA9XXX", "TK9KLM"};
+  static constexpr std::array kDepartments = {"57", "06", "", "33", "", "75", "", "2a"};
+  static constexpr std::array kLocators = {"JN39BC", "JN33RQ", "JO31AA", "IN94PT", "JN45OL", "JN18EU", "IN80BK", "JN41JX"};
+  static constexpr std::array kNames = {"Hélène", "René", "Jürgen", "Marc", "Paolo", "Anaïs", "Íñigo", "Ange"};
+  static constexpr std::array kPlaces = {"METZ", "NICE", "ESSEN", "DFCF 33012", "MILANO", "PARIS", "MADRID", "AJACCIO"};
+  static constexpr std::array kReports = {"59", "57", "599", "55"};
+  Champs_QSO qso;
+  const auto two = [](int number) { return Deux_Chiffres(number); };
+  qso.Date_A = two(1 + n / 12 % 28) + "/" + two(3 + n / 120 % 9) + "/24";
+  qso.Indicatif_A = Turn(kCalls, n);
+  qso.Debut_A = two(8 + n % 12) + ":" + two(n * 7 % 50);
+  qso.Fin_A = two(8 + n % 12) + ":" + two(n * 7 % 50 + 4);
+  qso.Depart_A = Turn(kDepartments, n);
+  qso.Bande_A = kBandes[static_cast<std::size_t>(10 + n % 3)];
+  qso.Locator_A = Turn(kLocators, n);
+  qso.Mode_A = kModes[static_cast<std::size_t>(n % 2)];
+  qso.RSTE_A = Turn(kReports, n);
+  qso.RSTR_A = Turn(kReports, n + 1);
+  qso.QTH_A = Turn(kPlaces, n);
+  qso.Prenom_A = Turn(kNames, n);
+  qso.Distance_A = std::to_string(120 + n * 37 % 900);
+  qso.Azimut_A = std::to_string(n * 53 % 360);
+  qso.Activ_A = n % 8 == 3 ? "1" : "0";
+  qso.Remarques_A = n % 8 == 3 ? "C. DE LA TOUR" : "";
+  return Construit_Ligne(qso);
+}
+
+void MakeStation(Application& application, const ProgramFolder& folder) {
+  const auto file = [&](const char* suffix) { return folder.text + "/" + kStation + suffix; };
+  const auto setting = [&](const std::string& key, const std::string& value) {
+    application.settings.Write("DDFM", "Setup", key, value);
+    application.settings.Write("DDFM", std::string("Setup ") + kStation, key, value);
+  };
+  for (const char* suffix : {"_Departement.txt", "_Locator.txt", "_Prefixe.txt"})
+    application.disk.Copy(folder.text + "/FXXXX" + suffix, file(suffix));
+  std::string log, directory;
+  for (int n = 0; n < kContacts; ++n) log += Contact(n).append(kFin_De_Ligne);
+  application.disk.WriteAll(file(".log"), log);
+  for (const char* line : {"F9AAA      57 JN39BC", "F9EFG      33 IN94PT", "F9HIJ      75 JN18EU"})
+    directory += std::string(line) + "\r\n";
+  application.disk.WriteAll(folder.text + "/Nomenclature.txt", directory);
+  application.disk.WriteAll(file("_Activite.bak"), "QSO\r\nDFCF\r\nDMF\r\nDIFI\r\nDIFM\r\n");
+  setting("Indicatif Station", kStation);
+  setting("Locator Station", "JN33BB");
+  setting("Nombre Indicatif", "2");
+  setting("Indicatif1", "F9QZX        JN33BB");
+  setting("Indicatif2", "F9QZX_P      JN23WE");
+  setting("bande Utilisee", "10");
+  setting("NB Activite", "5");
+  setting("Chemin Sauvegarde", file(""));
+  setting("Numero Sauvegarde", std::to_string(kContacts));
+  const char* activities[] = {"QSO", "DFCF", "DMF", "DIFI", "DIFM"};
+  for (int n = 0; n < 5; ++n) setting("Activite" + std::to_string(n), activities[n]);
+}
+
+void FillTallies(Programme& programme) {
+  for (int n = 1; n < 96; ++n)
+    if (n * 7 % 5 < 3)
+      Sous_Programmes::Maj_Departement(programme, Deux_Chiffres(n), std::to_string(1 + n * 11 % 4), "144 Mhz");
+  for (const char* call : {"F9AAA", "DL9ZZZ", "I9QQQ", "EA9XXX", "TK9KLM", "G9AAA", "HB9AAA"}) {
+    std::string code, country, prefix;
+    Sous_Programmes::Maj_Prefixe(programme, call, "7.0 Mhz", code, country, prefix);
+  }
+}
+
+// --- The pictures ---------------------------------------------------------------------------------------------------
+
+class Session {
+ public:
+  Session(Application& application, Programme& programme, const Album& album)
+      : windows_(application.windows), programme_(programme), album_(album) {}
+
+  void TakeAll(QSize size) {
+    Do([this] { programme_.Fenetre<DDFM>(); });
+    DDFM& main = programme_.Fenetre<DDFM>();
+    FillTallies(programme_);
+    Do([&] {
+      main.Peint_Departements();
+      main.Timer1.Fire();
+    });
+    if (!size.isEmpty()) windows_.WindowOf(main)->resize(size);
+    Take(main, QStringLiteral("DDFM-repos"));
+    TypeContact(main);
+    Take(main, QStringLiteral("DDFM-saisie"));
+
+    TakeWindow<Station>();
+    TakeWindow<Ajout_Prefixe>();
+    TakeWindow<Statistique_Prefixe>();
+    TakeWindow<Fichier_Nomenclature>();
+    TakeWindow<Ajout_Activite>();
+    TakeWindow<Delta_QSO>();
+    TakeWindow<Restoration_Activite>();
+    TakeWindow<Chargement>();
+    TakeWindow<Progression>();
+    Do([&] {
+      main.Liste_QSO.SetListIndex(main.Liste_QSO.Count() - 5);
+      main.Gestion_QSL.UserClick();
+    });
+    if (auto* cards = programme_.Ouverte<QSL>()) {
+      Take(*cards, QStringLiteral("QSL"));
+      Do([&] { cards->Multiple.UserClick(); });
+      auto& many = programme_.Fenetre<Multi_QSL>();
+      Do([&] { many.Recherche.UserClick(); });
+      Do([&] { many.Liste_QSO.UserTick(1); });
+      Take(many, QStringLiteral("Multi_QSL"));
+    }
+    Do([&] { main.Mnu_A_Propos.UserClick(); });
+    // Comes last: the program ends with it.
+    TakeWindow<Gestion_Erreur>();
+  }
+
+ private:
+  void Do(const std::function<void()>& action) {
+    windows_.Deliver(programme_, action);
+    windows_.ShowPending();
+    QCoreApplication::processEvents();
+  }
+
+  void Take(Form& form, const QString& name) {
+    windows_.ShowPending();
+    QCoreApplication::processEvents();
+    album_.Save(*windows_.WindowOf(form), name);
+  }
+
+  template <typename F>
+  void TakeWindow() {
+    Do([this] { programme_.Fenetre<F>().Show(); });
+    F* form = programme_.Ouverte<F>();
+    if (!form) return;
+    Take(*form, ToQt(form->Name()));
+    Do([form] { form->Hide(); });
+  }
+
+  /// A contact on the way: with a callsign that the log knows.
+  void TypeContact(DDFM& main) {
+    const auto type = [this](auto& field, const char* keys) {
+      for (const char key : std::string(keys)) Do([&] { field.UserKey(static_cast<unsigned char>(key)); });
+    };
+    type(main.Bande_A, "\r");
+    type(main.Indicatif_A, "f9aaa\r");
+    type(main.Depart_A, "\r");
+    type(main.Locator_A, "\r");
+    type(main.Mode_A, "\r");
+    type(main.Activ_A, "\r");
+    type(main.RSTE_A, "\r");
+    type(main.RSTR_A, "\r");
+    type(main.Prenom_A, "\r");
+    type(main.QTH_A, "METZ");
+  }
+
+  QtWindows& windows_;
+  Programme& programme_;
+  const Album& album_;
+};
+
+bool CopyData(const QString& to) {
+  const QDir data(QStringLiteral(VORELIO_DATA_DIR));
+  bool copied = true;
+  for (const QString& name : TemplateFiles())
+    copied = QFile::copy(data.filePath(name), QDir(to).filePath(name)) && copied;
+  return copied;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2 && argc != 4) {
+    std::fputs("vorelio_pictures DOSSIER [LARGEUR HAUTEUR]\n", stderr);
+    return 2;
+  }
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication qt(argc, argv);
+  SetUpApplication();
+  Album album{QDir(QString::fromLocal8Bit(argv[1])), {}};
+  QDir().mkpath(album.folder.path());
+  const QSize size = argc == 4 ? QSize(std::atoi(argv[2]), std::atoi(argv[3])) : QSize();
+  for (const bool dark : {false, true}) {
+    album.theme = dark ? QStringLiteral("sombre") : QStringLiteral("clair");
+    const QTemporaryDir scratch;
+    if (!CopyData(scratch.path())) return 1;
+    const ProgramFolder folder{scratch.path(), FromQt(scratch.path()), scratch.path().toStdString()};
+    Application application(folder, scratch.path());
+    application.appearance.SetTheme(dark ? Appearance::Theme::Dark : Appearance::Theme::Light);
+    PicturedMessages messages(application.windows, album);
+    Platform services = application.Services();
+    MakeStation(application, folder);
+    const Platform with_pictures{services.settings, messages,      services.dialogs,   services.clock,
+                                 services.windows,  services.disk, services.directory, services.separator};
+    Programme programme(with_pictures);
+    Session(application, programme, album).TakeAll(size);
+  }
+  return 0;
+}
