@@ -39,8 +39,11 @@ Moment Moment_QSO(std::string_view date, std::string_view heure) {
   std::string complete(date);
   if (annee_courte >= 50 && annee_courte <= 99) complete = std::string(jour_mois) + "19" + std::string(deux_chiffres);
   if (annee_courte >= 0 && annee_courte <= 49) complete = std::string(jour_mois) + "20" + std::string(deux_chiffres);
+  return Moment_Complet(complete, heure);
+}
 
-  const auto [jour, mois, annee] = Nombres<3>(complete, '/');
+Moment Moment_Complet(std::string_view date, std::string_view heure) {
+  const auto [jour, mois, annee] = Nombres<3>(date, '/');
   const std::chrono::year_month_day jour_reel(std::chrono::year(annee), std::chrono::month(static_cast<unsigned>(mois)),
                                               std::chrono::day(static_cast<unsigned>(jour)));
   if (!jour_reel.ok()) Refuse(date);

@@ -15,4 +15,7 @@ struct Moment {
 /// of this one. A date or a time that doesn't exist is run-time error 13.
 Moment Moment_QSO(std::string_view date, std::string_view heure);
 
+/// The same of a date whose year is complete, "jj/mm/aaaa".
+Moment Moment_Complet(std::string_view date, std::string_view heure);
+
 }  // namespace vorelio

@@ -151,8 +151,11 @@ int Nombre_Entier(std::string_view texte) {
 }
 
 std::string Texte_Nombre(double nombre) {
-  std::array<char, 32> tampon{};
-  const auto [fin, faute] = std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre);
+  // Without a format 100000 would be the shorter "1e+05".
+  constexpr double kChiffres_Exacts = 1e15;
+  const auto format = std::abs(nombre) < kChiffres_Exacts ? std::chars_format::fixed : std::chars_format::general;
+  std::array<char, 64> tampon{};
+  const auto [fin, faute] = std::to_chars(tampon.data(), tampon.data() + tampon.size(), nombre, format);
   if (faute != std::errc{}) throw Erreur_Execution(Erreur::Depassement);
   return {tampon.data(), fin};
 }

@@ -19,7 +19,10 @@ class ErrorWindowTest : public StationFixture {
 
   /// Runs into a missing prefix tally, and lets the user act while the program waits.
   void Miss(const std::function<void(Gestion_Erreur&)>& act) {
-    windows.OnWait = [this, act] { Event([&] { act(programme->Fenetre<Gestion_Erreur>()); }); };
+    windows.OnWait = [this, act] {
+      if (++waits > 5) throw Fin_Programme{};
+      Event([&] { act(programme->Fenetre<Gestion_Erreur>()); });
+    };
     Event([this] {
       Piege_Fichier_Station(*programme, "_Prefixe.txt", [this] { disk.ReadAll(folder.File("nowhere.txt")); });
       resumed = true;
@@ -27,17 +30,17 @@ class ErrorWindowTest : public StationFixture {
   }
 
   bool resumed = false;
+  int waits = 0;
 };
 
 TEST_F(ErrorWindowTest, MissingFileNamesItAndNeverResumes) {
-  int waits = 0;
   Miss([&](Gestion_Erreur& window) {
     EXPECT_EQ(window.Title(), "Erreur");
     EXPECT_TRUE(window.Visible());
     EXPECT_EQ(window.Ind_Station.Caption(), "F9QZX_P");
     EXPECT_EQ(window.Ind_Station1.Caption(), "F9QZX_P");
     EXPECT_EQ(window.Err_Departement.Caption(), "_Prefixe.txt");
-    if (++waits == 3) window.Quitter.UserClick();
+    if (waits == 3) window.Quitter.UserClick();
   });
   EXPECT_EQ(waits, 3);
   EXPECT_FALSE(resumed);

@@ -67,6 +67,8 @@ TEST(Text, ReadsNumbers) {
   EXPECT_EQ(ErrorOf([] { Nombre_Entier("99999999999"); }), 6);
   EXPECT_EQ(ErrorOf([] { Valeur("1e999"); }), 6);
   EXPECT_EQ(Texte_Nombre(99999), "99999");
+  EXPECT_EQ(Texte_Nombre(100000), "100000");
+  EXPECT_EQ(Texte_Nombre(0.5), "0.5");
   EXPECT_EQ(Texte_Nombre_Blanc(0), " 0");
   EXPECT_EQ(Texte_Nombre_Blanc(-1), "-1");
   EXPECT_TRUE(Booleen("True") && Booleen(" true ") && !Booleen("1") && !Booleen("Vrai") && !Booleen(""));

@@ -26,27 +26,33 @@ class LocatorTest : public StationFixture {};
 // The expected figures come from sixty-digit series for sine, cosine and arctangent with the same constants.
 TEST_F(LocatorTest, DistanceAndAzimuthOfKnownPairs) {
   const struct {
-    const char *from, *to;
-    const char* km;
+    const char *from, *to, *km;
     float degrees;
+    const char* what;
   } pairs[] = {
-      {"JN33BB", "JN33BC", "5", 0},       // The next sub-square to the north,
-      {"JN33BB", "JN33CB", "7", 90},      // to the east,
-      {"JN33BB", "JN33AB", "7", 270},     // to the west,
-      {"JJ00AA", "JI09AX", "5", 180},     // to the south, over the equator.
-      {"JN33BB", "JP33BB", "2226", 0},    // Due north,
-      {"JN33BB", "JM33BB", "1113", 180},  // due south,
-      {"JN33BB", "JF33BB", "8906", 180},  // and farther.
-      {"JN33BB", "JN18EU", "707", 337},   {"JN33BB", "FN20XR", "6380", 297}, {"JN33BB", "PM95TQ", "10084", 36},
-      {"JN33BB", "AE36CW", "20032", 270},                                     // Nearly the other end of the world.
-      {"AA00AA", "RR99XX", "20034", 0},   {"JN33BB", "AR09AX", "5228", 360},  // Beside the north pole, a little to the
-                                                                              // west: 360, not 0.
-      {"JN33BB", "JA00AA", "14811", 180}, {"RF73KC", "AG08AA", "1734", 342},  // The date line isn't seen: a target
-                                                                              // beyond it counts as west.
-      {"AG08AA", "RF73KC", "1734", 164},  {"IN88AA", "jn33bb", "959", 121},  {"in88aa", "JN33BB", "959", 121},
+      {"JN33BB", "JN33BC", "5", 0, "the next sub-square to the north"},
+      {"JN33BB", "JN33CB", "7", 90, "the next sub-square to the east"},
+      {"JN33BB", "JN33AB", "7", 270, "the next sub-square to the west"},
+      {"JJ00AA", "JI09AX", "5", 180, "the next one to the south, over the equator"},
+      {"JN33BB", "JP33BB", "2226", 0, "due north: nothing is taken from 360"},
+      {"JN33BB", "JM33BB", "1113", 180, "due south, near"},
+      {"JN33BB", "JF33BB", "8906", 180, "due south, far"},
+      {"JN33BB", "JN18EU", "707", 337, "Paris"},
+      {"JN33BB", "FN20XR", "6380", 297, "New York"},
+      {"JN33BB", "PM95TQ", "10084", 36, "Tokyo"},
+      {"JN33BB", "AE36CW", "20032", 270, "nearly the other end of the world"},
+      {"AA00AA", "RR99XX", "20034", 0, "from corner to corner of the grid"},
+      {"JN33BB", "AR09AX", "5228", 360, "beside the north pole, a little to the west"},
+      {"JN33BB", "JA00AA", "14811", 180, "beside the south pole, a little to the west"},
+      {"JN33BB", "AO33BB", "9337", 360, "over the north pole, the cosine a little above 1"},
+      {"JE33BB", "AE33BB", "9588", 180, "over the south pole, the cosine a little below -1"},
+      {"RF73KC", "AG08AA", "1734", 342, "over the date line, which isn't seen: east counts as west"},
+      {"AG08AA", "RF73KC", "1734", 164, "over the date line, the other way"},
+      {"IN88AA", "jn33bb", "959", 121, "small letters in the second"},
+      {"in88aa", "JN33BB", "959", 121, "small letters in the first"},
   };
   for (const auto& pair : pairs) {
-    SCOPED_TRACE(std::string(pair.from) + " to " + pair.to);
+    SCOPED_TRACE(pair.what);
     std::string to = pair.to;
     Calcule_Azimut(*programme, pair.from, to);
     Calcule_Distance(*programme, pair.from, to);

@@ -128,22 +128,24 @@ TEST_F(DepartmentTallyTest, AFailingCopyLeavesTheTemporaryFile) {
 }
 
 TEST_F(DepartmentTallyTest, PaintingColoursCellsAndCounts) {
-  WriteLines(kFile, {"01 00001000000000000 Ain", "02 00002000000000000", "03 00003000000000000", "04 00004000000000000",
-                     "05 00000000000000000", "06 0000 000000000000 blank", "07 00009000000000000",
-                     "2a 00001000000000000", "96 00002000000000000", "2B 00004000000000000", "08 000", "", "XX"});
+  WriteLines(kFile,
+             {"01 00001000000000000 Ain", "02 00002000000000000", "03 00003000000000000", "04 00004000000000000",
+              "05 00000000000000000", "06 0000 000000000000 blank", "07 00009000000000000", "2a 00001000000000000",
+              "96 00002000000000000", "2B 00004000000000000", "08 000", "09 00001", "", "XX"});
   Event([&] { Cell(50).SetColour(kDpt_Confirme); });
   Paint("14 Mhz");
   // Counted: every code that isn't "0", blank or unknown ones too. A line that ends before its code has none.
-  EXPECT_EQ(total, 9);
+  EXPECT_EQ(total, 10);
   EXPECT_EQ(Cell(1).Colour(), 0xC0C0FFU);
   EXPECT_EQ(Cell(2).Colour(), 0x00FFFFU);
   EXPECT_EQ(Cell(3).Colour(), 0xFFFF80U);
   EXPECT_EQ(Cell(4).Colour(), 0x80FF80U);
   for (const int plain : {0, 5, 6, 7, 8, 50, 99}) EXPECT_EQ(Cell(plain).Colour(), kFond_Fenetre) << plain;
+  EXPECT_EQ(Cell(9).Colour(), 0xC0C0FFU);
   EXPECT_EQ(Cell(96).Colour(), 0x00FFFFU);
   EXPECT_EQ(Cell(97).Colour(), 0x80FF80U);
   // The four counts are of cells: both lines of Corsica's south are one.
-  EXPECT_EQ(counts.sans, 1);
+  EXPECT_EQ(counts.sans, 2);
   EXPECT_EQ(counts.envoyees, 2);
   EXPECT_EQ(counts.recues, 1);
   EXPECT_EQ(counts.confirmees, 2);
