@@ -67,6 +67,7 @@ class DDFM : public Form {
   Button Gestion_QSL{*this, "Gestion_QSL", "Gestion QSL"};
   Button Exporter{*this, "Exporter", "Exporter QSO"};
   Label NB_Debug{*this, "NB_Debug"};          ///< The step that a save has reached.
+  Label Etat{*this, "Etat"};                  ///< Status line: how far an import is, what it has brought.
 
   // --- Grid ---
   Frame Frame3;
@@ -85,6 +86,10 @@ class DDFM : public Form {
 
   // --- Menus ---
   MenuItem Mnu_Indicatif, Mnu_Val_Sauve, Mnu_Restauration, Mnu_Restau_Activite, Mnu_RAZ_All, Mnu_Quitter;
+  MenuItem Mnu_Import_ADIF{*this, "Mnu_Import_ADIF", "Importer un fichier ADIF"};
+  MenuItem Mnu_Import_EDI{*this, "Mnu_Import_EDI", "Importer un fichier EDI"};
+  MenuItem Mnu_Import_CTF{*this, "Mnu_Import_CTF", "Importer un fichier CTF"};
+  MenuItem Mnu_Export_Adif{*this, "Mnu_Export_Adif", "Exporter le fichier log au format ADIF"};
   MenuItem Mnu_Auto_Oui, Mnu_Auto_Non, Mnu_UTC_Oui, Mnu_UTC_Non, Mnu_Sep_Oui, Mnu_Sep_Non, Mnu_Exp_Oui, Mnu_Exp_Non;
   MenuItem Mnu_Nomenclature, Mnu_Prefixe, Mnu_Ajout_Activite;
   MenuItem Mnu_MAJ_Prefixe, Mnu_MAJ_Departement, Mnu_MAJ_Locator;
@@ -157,6 +162,7 @@ class DDFM : public Form {
   /// False if the form stays in edit mode.
   bool Enregistre_Edition();
   void Question_Repertoire();
+  void Propose_Export();
   Champs_QSO Champs_Saisis() const;
   void Prepare_Suivant();
 

@@ -2,6 +2,11 @@
 #include "core/station_form.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "exchange/adif_import.h"
+#include "exchange/award_export_window.h"
+#include "exchange/edi_import.h"
+#include "exchange/export_adif_window.h"
+#include "exchange/native_import.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup.h"
 #include "maintenance/backup_settings_window.h"
@@ -17,18 +22,20 @@ namespace vorelio {
 using namespace Sous_Programmes;
 
 void DDFM::Relie_Menus() {
-  // A pair of entries of which the checked one is the setting's value.
-  const auto option = [this](MenuItem& oui, MenuItem& non, const char* cle) {
-    const auto choix = [this, &oui, &non, cle](bool valeur) {
+  // A pair of entries of which the checked one is the setting's value; a button may go with it.
+  const auto option = [this](MenuItem& oui, MenuItem& non, const char* cle, Button* bouton = nullptr) {
+    const auto choix = [this, &oui, &non, cle, bouton](bool valeur) {
       oui.SetChecked(valeur);
       non.SetChecked(!valeur);
       programme_.reglages.Ecrit_Station(cle, Texte_Booleen(valeur));
+      if (bouton) bouton->SetEnabled(valeur);
     };
     oui.Click = [choix] { choix(true); };
     non.Click = [choix] { choix(false); };
   };
   option(Mnu_UTC_Oui, Mnu_UTC_Non, "Heure UTC");
   option(Mnu_Sep_Oui, Mnu_Sep_Non, "Separateur");
+  option(Mnu_Exp_Oui, Mnu_Exp_Non, "Exporter QSO", &Exporter);
   Mnu_Auto_Oui.Click = [this] { Mnu_Date_Automatique(true); };
   Mnu_Auto_Non.Click = [this] { Mnu_Date_Automatique(false); };
 
@@ -36,6 +43,11 @@ void DDFM::Relie_Menus() {
   Mnu_Val_Sauve.Click = [this] { programme_.Fenetre<Delta_QSO>().Show(); };
   Mnu_Restauration.Click = [this] { Mnu_Restauration_Click(); };
   Mnu_Restau_Activite.Click = [this] { programme_.Fenetre<Restoration_Activite>().Show(); };
+  Mnu_Import_ADIF.Click = [this] { Importe_ADIF(programme_); };
+  Mnu_Import_EDI.Click = [this] { Importe_EDI(programme_); };
+  Mnu_Import_CTF.Click = [this] { Importe_CTF(programme_); };
+  Mnu_Export_Adif.Click = [this] { programme_.Fenetre<Export_Adif>().Show(); };
+  Exporter.Click = [this] { programme_.Fenetre<Exporter_QSO>().Show(); };
   Mnu_Quitter.Click = [this] { Unload(); };
   Mnu_Nomenclature.Click = [this] { programme_.Fenetre<Fichier_Nomenclature>().Show(); };
   Mnu_Prefixe.Click = [this] { programme_.Fenetre<Ajout_Prefixe>().Show(); };

@@ -3,6 +3,7 @@
 #include "core/log_file.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "exchange/award_export_window.h"
 #include "maintenance/backup.h"
 #include "tallies/callsign_directory.h"
 #include "tallies/department_tally.h"
@@ -92,8 +93,16 @@ void DDFM::Enregistre_Nouveau() {
     Insere_QSO_Log(programme_, ligne);
   }
   Liste_QSO.SetListIndex(Liste_QSO.Count() - 1);
+  // Contacts that are typed in afterwards, with a date of their own, aren't offered.
+  if (automatique && Mnu_Exp_Oui.Checked() && Activite_Exportable(Activ_A.Text())) Propose_Export();
   Editer.SetEnabled(false);
   Effacer.SetEnabled(false);
+}
+
+void DDFM::Propose_Export() {
+  // One left open still shows the contact of its opening.
+  if (auto* ouverte = programme_.Ouverte<Exporter_QSO>()) ouverte->Unload();
+  programme_.Fenetre<Exporter_QSO>().ShowModal();
 }
 
 void DDFM::Question_Repertoire() {

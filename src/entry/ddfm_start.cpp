@@ -76,10 +76,8 @@ DDFM::DDFM(Programme& programme)
     inactif->SetEnabled(false);
   Verrouille_Champs();
   Liste_QSO_Bis.SetVisible(false);
-  // These lead to windows that this version doesn't have.
-  for (Control* cache : {static_cast<Control*>(&Mnu_Exp_Oui), static_cast<Control*>(&Mnu_Exp_Non),
-                         static_cast<Control*>(&Exporter), static_cast<Control*>(&Recherche)})
-    cache->SetVisible(false);
+  // It leads to a window that this version doesn't have.
+  Recherche.SetVisible(false);
   Relie_Evenements();
 }
 
@@ -213,7 +211,7 @@ void DDFM::Charge_Activites(int defaut_nombre, std::string_view defaut_nom) {
   programme_.contexte.Nb_Activite = reglages.Nombre_Activites(defaut_nombre);
   Activ_A.ClearItems();
   for (int n = 0; n < programme_.contexte.Nb_Activite; ++n)
-    Activ_A.AddItem(reglages.Station("Activite" + std::to_string(n), defaut_nom));
+    Activ_A.AddItem(reglages.Station(Cle_Activite(n), defaut_nom));
   Choisit_Activite();
 }
 

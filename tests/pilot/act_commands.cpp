@@ -142,6 +142,8 @@ void Close(Run& run, Args& args) {
   args.End();
   Form* form = run.FindForm(name);
   if (!form) Differs("an open window " + name, "none");
+  const Form* modal = run.Started().Fenetre_Modale();
+  if (modal && modal != form && !form->Main()) run.Note(name + " is locked behind the window " + modal->Name());
   run.way().Close(*form);
 }
 

@@ -48,9 +48,10 @@ class FormsWay : public Way {
       if (first) combo->UserKeysBegin();
       return Do(control, [=] { combo->UserKey(key); });
     }
-    // Enter and the space bar press a button.
-    if (key == kEntree || key == ' ') return Click(control);
-    return false;
+    if (!Clickable(control)) return false;
+    // Enter and the space bar press a button, other keys do nothing to it.
+    if (key == kEntree || key == ' ') Click(control);
+    return true;
   }
 
   bool Paste(Control& control, const std::string& text) override {
@@ -124,6 +125,11 @@ class FormsWay : public Way {
 };
 
 }  // namespace
+
+bool Clickable(const Control& control) {
+  return dynamic_cast<const Button*>(&control) || dynamic_cast<const CheckBox*>(&control) ||
+         dynamic_cast<const OptionButton*>(&control);
+}
 
 std::unique_ptr<Way> MakeFormsWay(Script& script) { return std::make_unique<FormsWay>(script); }
 

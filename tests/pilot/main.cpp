@@ -1,5 +1,6 @@
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,8 +20,9 @@ int main(int argc, char** argv) {
     return 2;
   }
 
-  const pilot::Starter start = [](Programme& programme) { programme.Fenetre<DDFM>(); };
-  const pilot::Score score = windows ? pilot::RunFilesInWindows(files, start, std::cout)
-                                     : pilot::RunFiles(files, pilot::MakeFormsWay, start, std::cout);
+  const auto desktop = windows ? std::make_unique<pilot::Desktop>() : nullptr;
+  const pilot::Score score = pilot::RunFiles(
+      files, windows ? pilot::MakeWindowsWay : pilot::MakeFormsWay,
+      [](Programme& programme) { programme.Fenetre<DDFM>(); }, std::cout);
   return score.failed == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "pilot/bench_forms.h"
+#include "pilot/bench.h"
 
 namespace vorelio::pilot {
 namespace {
@@ -27,31 +27,7 @@ void Check(std::initializer_list<Case> cases) {
 }
 
 TEST(Pilot, ScenariosThatHold) {
-  for (const char* scenario : {
-           "start\ntype Appel \"f6abc\\r\"\nexpect Appel text F6ABC\nexpect Appel enabled no\nexpect Vu caption F6ABC\n"
-           "expect Vu text F6ABC\nexpect focus Bande",
-           "start\ncaret Appel 0 0\nexpect Appel caret 0\ntype Appel ab\nexpect Appel caret 2\n"
-           "caret Appel 1 1\ntype Appel c\nexpect Appel text AC",
-           "start\nexpect Banc open\nexpect Banc title \"Banc d'été\"\nclose Banc\nexpect Banc closed\nexpect ended",
-           "start\nselect Bande 2\nselect Bande 2\nselect Bande \"14 Mhz\"\nexpect Clics text 220\nexpect Bande index "
-           "0\n"
-           "expect Bande text \"14 Mhz\"\nexpect Bande count 3",
-           "start\nexpect Liste item 0 a\nexpect Liste item 2 contains c\nexpect Liste index -1\n"
-           "dblclick Liste 1\nexpect Vu text \"double b\"\nexpect Liste index 1",
-           "start\ntick Cases 1\nclick Non\nexpect Non checked yes\nexpect Oui checked no",
-           "start\nanswer yes\nclick Demander\nexpect question \"Vraiment ?\"\nexpect Vu caption oui\n"
-           "answer cancel\nclick Demander\nexpect question contains rai\nexpect Vu caption non",
-           // A read-only field takes no keys, but what is set in it.
-           "start\ntype Lu x\nexpect Lu text \"\"\npaste Lu \"été\"\nexpect Lu text \"été\"\npaste Lu \"Ω\"\n"
-           "expect Lu text \"été\"",
-           "start\ntype Appel \"aΩb\"\nexpect Appel text AB\nexpect Dpt(1) text \"\"\nexpect Banc.Dpt(0) colour window",
-           "start\nclick Choisir\nexpect Vu text \"\"\nchoose a.adi\nclick Choisir\nexpect Vu text \"{dir}{/}a.adi\"\n"
-           "choose none\nclick Choisir\nexpect Vu text \"\"",
-           "clock \"2003-12-31 23:30:00\" +01:00\nstart\ntimer Minuteur\nexpect Vu text 0h30\n"
-           "clock \"2004-01-01 10:00:00\" -03:30\ntimer Minuteur\nexpect Vu text 6h30",
-           "start\nmenu Menu_Message\nmenu Menu_Message\nexpect message contains du\nexpect message \"du menu\"",
-       })
-    EXPECT_EQ(Says(scenario), "") << scenario;
+  for (const char* scenario : kScenariosThatHold) EXPECT_EQ(Says(scenario), "") << scenario;
 }
 
 TEST(Pilot, ModalWindowReceivesWhatFollows) {

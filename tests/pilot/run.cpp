@@ -94,7 +94,7 @@ Control& Run::FindControl(const std::string& name) const {
 
 void Run::Note(const std::string& text) { notes_.push_back(Place(line_) + "note: " + text); }
 
-void Run::Print(const std::string& text) { out_ << Place(line_) << text << '\n'; }
+void Run::Print(const std::string& text) { out_ << Place(line_) << text << std::endl; }
 
 // --- What waits for the user ----------------------------------------------------------------------------------------
 
@@ -144,10 +144,13 @@ void Run::Fail(int line, const std::string& text) {
   failed_ = true;
   out_ << Place(line) << text << '\n';
   for (const std::string& note : notes_) out_ << note << '\n';
-  for (const tests::Box& box : boxes_.boxes)
-    if (box.kind != tests::Box::Kind::Question && !box.expected)
-      out_ << Place(box.line) << "note: " << (box.kind == tests::Box::Kind::Fatal ? "the program ended with " : "")
-           << "the message " << Shown(box.text) << (box.kind == tests::Box::Kind::Fatal ? "" : " was shown") << '\n';
+  for (const tests::Box& box : boxes_.boxes) {
+    if (box.kind == tests::Box::Kind::Question || box.expected) continue;
+    const bool fatal = box.kind == tests::Box::Kind::Fatal;
+    out_ << Place(box.line) << "note: " << (fatal ? "the program ended with " : "the message ") << Shown(box.text)
+         << (fatal ? "" : " was shown") << '\n';
+  }
+  out_ << std::flush;
 }
 
 void Run::JudgeBoxes() {

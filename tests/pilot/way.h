@@ -38,6 +38,9 @@ class Script {
   virtual const std::string& ScratchFolder() const = 0;
 };
 
+/// Whether a control is there to be clicked on: a button, a check box, an option.
+bool Clickable(const Control& control);
+
 /// Acts on the program as its user. Every control that it is given can be reached.
 class Way {
  public:

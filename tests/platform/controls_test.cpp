@@ -70,6 +70,11 @@ class ModalPage : public Page {
   explicit ModalPage(Programme& programme) : Page(programme, "ModalPage") {}
 };
 
+class SidePage : public Page {
+ public:
+  explicit SidePage(Programme& programme) : Page(programme, "SidePage") {}
+};
+
 class Controls : public ::testing::Test {
  protected:
   Controls() {
@@ -193,7 +198,7 @@ TEST_F(Controls, SelectionFollowsItsRow) {
   for (const char* row : {"b", "d"}) page.sorted.AddItem(row);
   page.sorted.SetListIndex(1);
   Events();
-  page.sorted.AddItem("a");
+  page.sorted.AddItem("c");
   EXPECT_EQ(page.sorted.ListIndex(), 2);
   page.sorted.AddItem("e");
   EXPECT_EQ(page.sorted.Text(), "d");
@@ -357,7 +362,11 @@ TEST_F(Controls, ProceduresActOnDisabledControls) {
 // --- Windows and the program ----------------------------------------------------------------------------------------
 
 TEST_F(Controls, ModalWindowLocksTheOthers) {
+  auto& side = programme.Fenetre<SidePage>();
+  side.Show();
   windows.OnModal = [&](Form& form) {
+    Event([&] { side.UserClose(); });
+    EXPECT_TRUE(side.Visible());
     auto& modal = static_cast<ModalPage&>(form);
     EXPECT_TRUE(modal.Visible());
     EXPECT_EQ(programme.Fenetre_Modale(), &modal);

@@ -10,17 +10,12 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 #include "core/station_files.h"
 #include "entry/ddfm.h"
 #include "log_maker.h"
-#include "platform/posix_disk.h"
-#include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_file_dialogs.h"
-#include "platform/qt/qt_messages.h"
-#include "platform/qt/qt_settings.h"
-#include "platform/qt/qt_windows.h"
+#include "platform/qt/application.h"
+#include "platform/qt/qt_text.h"
 #include "support/ready_station.h"
 #include "support/scratch_folder.h"
 
@@ -31,27 +26,23 @@ using namespace vorelio;
 constexpr const char* kStation = "F6ABC";
 constexpr int kGive_Up_ms = 60000;
 
-/// The program on its real services.
+/// The program on its real services, with settings of its own beside its files.
 struct RealRun {
-  explicit RealRun(const std::string& folder)
-      : settings(QString::fromStdString(folder + "/vorelio.ini")),
-        programme({settings, messages, dialogs, clock, windows, disk, folder, '/'}) {}
+  explicit RealRun(const QString& folder)
+      : application({folder, FromQt(folder), folder.toStdString()}, folder + QStringLiteral("/config")),
+        programme(application.Services()) {}
 
-  QtWindows windows;
-  QtMessages messages{windows};
-  QtFileDialogs dialogs{windows, messages};
-  QtClock clock;
-  QtSettings settings;
-  PosixDisk disk;
+  Application application;
   Programme programme;
 };
 
-void Prepare(const std::string& folder, int contacts) {
-  tests::CopyTemplates(folder);
+void Prepare(const QString& folder, int contacts) {
+  tests::CopyTemplates(folder.toStdString());
   RealRun run(folder);
   Sous_Programmes::Cree_Fichiers_Station(run.programme, kStation);
-  tests::SeedStationSettings(run.settings, folder, '/', kStation, "JN33BB");
-  run.disk.WriteAll(folder + "/" + kStation + ".log", bench::MakeLog(contacts));
+  const Platform services = run.application.Services();
+  tests::SeedStationSettings(services.settings, services.directory, services.separator, kStation, "JN33BB");
+  services.disk.WriteAll(run.programme.Chemin_Log(kStation), bench::MakeLog(contacts));
 }
 
 }  // namespace
@@ -59,20 +50,21 @@ void Prepare(const std::string& folder, int contacts) {
 int main(int argc, char** argv) {
   const auto begin = std::chrono::steady_clock::now();
   QApplication application(argc, argv);
+  SetUpApplication();
   const QStringList words = QCoreApplication::arguments();
   if (words.size() == 4 && words[1] == QStringLiteral("prepare")) {
-    Prepare(words[2].toStdString(), words[3].toInt());
+    Prepare(words[2], words[3].toInt());
     return 0;
   }
   if (words.size() != 3) return 2;
 
-  RealRun run(words[2].toStdString());
-  QTimer::singleShot(0, &application,
-                     [&] { run.windows.Deliver(run.programme, [&] { run.programme.Fenetre<DDFM>(); }); });
+  RealRun run(words[2]);
+  QtWindows& windows = run.application.windows;
+  QTimer::singleShot(0, &application, [&] { windows.Deliver(run.programme, [&] { run.programme.Fenetre<DDFM>(); }); });
   QTimer::singleShot(kGive_Up_ms, &application, [] { QCoreApplication::exit(1); });
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &application, [&] {
     const DDFM* main = run.programme.Ouverte<DDFM>();
-    const QWidget* widget = main ? run.windows.WindowOf(*main) : nullptr;
+    const QWidget* widget = main ? windows.WindowOf(*main) : nullptr;
     if (!widget || !widget->windowHandle() || !widget->windowHandle()->isExposed()) return;
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
     std::printf("%.3f\n", time.count());

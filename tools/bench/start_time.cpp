@@ -53,8 +53,11 @@ std::string RunStart(std::vector<std::string> words) {
 }  // namespace
 
 StartTime MeasureStart(int contacts, int rounds) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
   const tests::ScratchFolder folder;
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  // The offscreen platform warns of what it can't do.
+  setenv("QT_LOGGING_RULES", "*.warning=false", 1);
+  setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 1);
   RunStart({"prepare", folder.Path(), std::to_string(contacts)});
   std::vector<double> inside;
   const Work start{{}, [&] { inside.push_back(std::stod(RunStart({"start", folder.Path()}))); }};

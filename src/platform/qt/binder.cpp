@@ -80,7 +80,7 @@ bool ForInput(const QObject& object) {
 bool InnerPart(const QObject& object) {
   if (object.objectName().startsWith(QLatin1String("qt_"))) return true;
   for (const QObject* above = object.parent(); above; above = above->parent())
-    if (ForInput(*above) || above->inherits("QAbstractScrollArea")) return true;
+    if (ForInput(*above)) return true;
   return false;
 }
 

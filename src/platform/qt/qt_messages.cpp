@@ -2,6 +2,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
+#include <QPointer>
+#include <QScreen>
+#include <algorithm>
 
 #include "platform/qt/qt_text.h"
 #include "platform/qt/qt_windows.h"
@@ -23,6 +27,14 @@ void NameButtons(QMessageBox& box) {
     if (QAbstractButton* shown = box.button(button)) shown->setText(words);
 }
 
+/// The lines of the texts are theirs: Qt would break those that it finds long.
+void KeepLines(QMessageBox& box) {
+  auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (!label) return;
+  const int widest = label->fontMetrics().size(0, box.text()).width();
+  label->setMinimumWidth(std::min(widest + 8, box.screen()->availableSize().width() * 7 / 10));
+}
+
 QMessageBox::Icon Sign(Icon icon) {
   switch (icon) {
     case Icon::Plain: return QMessageBox::Information;
@@ -38,7 +50,8 @@ int QtMessages::Run(const std::string& text, Icon icon, QMessageBox::StandardBut
                     QMessageBox::StandardButton first, QMessageBox::StandardButton escape,
                     const QString& only_button) {
   windows_.ShowPending();
-  QMessageBox box(QApplication::activeWindow());
+  QWidget* asking = QApplication::activeWindow();
+  QMessageBox box(asking);
   box.setWindowTitle(QStringLiteral("Vorelio"));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
@@ -47,8 +60,14 @@ int QtMessages::Run(const std::string& text, Icon icon, QMessageBox::StandardBut
   box.setDefaultButton(first);
   box.setEscapeButton(escape);
   NameButtons(box);
+  KeepLines(box);
   if (!only_button.isEmpty()) box.button(first)->setText(only_button);
-  return Execute(box);
+  const QPointer<QWidget> back(asking);
+  const int answer = Execute(box);
+  // Not every desktop gives the keyboard back by itself, and the next key belongs to the entry chain.
+  box.hide();
+  if (back && back->isVisible()) back->activateWindow();
+  return answer;
 }
 
 void QtMessages::Show(const std::string& text) {

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolTip>
@@ -189,6 +190,12 @@ void QtWindows::ShowWindow(Window& window) {
 
 void QtWindows::FocusFirst(Window& window) {
   if (window.widget->focusWidget()) return;
+  // The window's property "premier" names the widget to begin with, where that isn't the first of the tab chain.
+  const QString name = window.widget->property("premier").toString();
+  if (auto* first = name.isEmpty() ? nullptr : window.widget->findChild<QWidget*>(name); first && first->isEnabled()) {
+    first->setFocus(Qt::OtherFocusReason);
+    return;
+  }
   for (QWidget* next = window.widget->nextInFocusChain(); next && next != window.widget;
        next = next->nextInFocusChain()) {
     if (next->isEnabled() && next->isVisibleTo(window.widget) && (next->focusPolicy() & Qt::TabFocus)) {
@@ -235,6 +242,9 @@ void QtWindows::Focus(Control& control) {
     if (auto* field = qobject_cast<QLineEdit*>(before)) field->deselect();
   }
   view->Focused();
+  // With large letters on a small screen the window's contents are a scrolled page.
+  for (QWidget* above = widget->parentWidget(); above; above = above->parentWidget())
+    if (auto* page = qobject_cast<QScrollArea*>(above)) page->ensureWidgetVisible(widget, 20, 40);
 }
 
 void QtWindows::ServeEvents() {

@@ -1,10 +1,10 @@
 #include "platform/qt/style.h"
 
-#include <QAbstractScrollArea>
 #include <QComboBox>
+#include <QIcon>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPixmap>
 #include <QStyleOption>
 #include <algorithm>
 
@@ -237,7 +237,7 @@ QSize VorelioStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
     case CT_PushButton: {
       const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
       const int text = button ? option->fontMetrics.size(Qt::TextShowMnemonic, button->text).width() : size.width();
-      return {std::max(text + 26, 76), option->fontMetrics.height() + 12};
+      return {std::max(text + 20, 76), option->fontMetrics.height() + 12};
     }
     case CT_GroupBox: {
       const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
@@ -257,9 +257,51 @@ int VorelioStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
   }
 }
 
+namespace {
+
+/// The sign of a message box: a disc with its character, or an empty pixmap for any other icon.
+QPixmap Sign(QStyle::StandardPixmap sign) {
+  QColor ground;
+  QString character;
+  switch (sign) {
+    case QStyle::SP_MessageBoxInformation: ground = QColor(0x1D6FA5), character = u'i'; break;
+    case QStyle::SP_MessageBoxQuestion: ground = QColor(0x1D6FA5), character = u'?'; break;
+    case QStyle::SP_MessageBoxWarning: ground = QColor(0xC77A0A), character = u'!'; break;
+    case QStyle::SP_MessageBoxCritical: ground = QColor(0xB3372F), character = u'!'; break;
+    default: return {};
+  }
+  constexpr int kSide = 128;
+  QPixmap disc(kSide, kSide);
+  disc.fill(Qt::transparent);
+  QPainter painter(&disc);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(ground);
+  painter.setPen(Qt::NoPen);
+  painter.drawEllipse(6, 6, kSide - 12, kSide - 12);
+  QFont font;
+  font.setBold(true);
+  font.setPixelSize(kSide * 5 / 8);
+  painter.setFont(font);
+  painter.setPen(Qt::white);
+  painter.drawText(QRect(0, 0, kSide, kSide), Qt::AlignCenter, character);
+  return disc;
+}
+
+}  // namespace
+
+QPixmap VorelioStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* option, const QWidget* widget) const {
+  const QPixmap sign = Sign(pixmap);
+  return sign.isNull() ? QProxyStyle::standardPixmap(pixmap, option, widget) : sign;
+}
+
+QIcon VorelioStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+  const QPixmap sign = Sign(icon);
+  return sign.isNull() ? QProxyStyle::standardIcon(icon, option, widget) : QIcon(sign);
+}
+
 int VorelioStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const {
-  if (hint == SH_ComboBox_Popup) return 0;
+  if (hint == SH_ComboBox_Popup || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   // Disabled fields keep their black text on the model's colour: no light edge around it.
   if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);

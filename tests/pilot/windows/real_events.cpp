@@ -79,8 +79,10 @@ void PickRow(QComboBox& combo, int row) {
   if (!QTest::qWaitFor([&] { return view->isVisible(); }, kPatience_ms)) return;
   const QModelIndex index = combo.model()->index(row, combo.modelColumn(), combo.rootModelIndex());
   view->scrollTo(index);
-  QTest::mouseMove(view->viewport(), view->visualRect(index).center());
-  Press(*view->viewport(), view->visualRect(index).center());
+  // A row can be wider than what is seen of it.
+  const QPoint place = (view->visualRect(index) & view->viewport()->rect()).center();
+  QTest::mouseMove(view->viewport(), place);
+  Press(*view->viewport(), place);
   UntilIdle();
 }
 

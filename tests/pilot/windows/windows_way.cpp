@@ -15,9 +15,9 @@
 #include "pilot/windows/boxes.h"
 #include "pilot/windows/real_events.h"
 #include "pilot/windows/seen.h"
-#include "platform/qt/qt_settings.h"
+#include "pilot/words.h"
+#include "platform/qt/application.h"
 #include "platform/qt/qt_text.h"
-#include "platform/qt/qt_windows.h"
 #include "platform/qt/rows_view.h"
 
 namespace vorelio::pilot {
@@ -27,9 +27,13 @@ namespace {
 class WindowsWay : public Way {
  public:
   explicit WindowsWay(Script& script)
-      : settings_(QString::fromStdString(script.ScratchFolder() + "/settings.ini")),
+      : memory_(QString::fromStdString(script.ScratchFolder() + "/windows.ini"), QSettings::IniFormat),
+        appearance_(memory_),
+        extras_(appearance_, memory_),
+        settings_(QString::fromStdString(script.ScratchFolder() + "/settings.ini")),
         messages_(windows_, script),
         dialogs_(windows_, messages_, script) {
+    windows_.Furnish = [this](const Form& form, QWidget& window) { return extras_.Furnish(form, window); };
     windows_.Waiter = [&script](const std::function<bool()>& done) { script.GoOn(done); };
   }
 
@@ -46,10 +50,8 @@ class WindowsWay : public Way {
   // --- Acting ---
 
   bool Key(Control& control, int key, bool first) override {
-    const bool click =
-        dynamic_cast<Button*>(&control) || dynamic_cast<CheckBox*>(&control) || dynamic_cast<OptionButton*>(&control);
-    if (click && key != kEntree && key != ' ') return false;
-    if (!click && !dynamic_cast<TextField*>(&control) && !dynamic_cast<ListControl*>(&control)) return false;
+    if (!Clickable(control) && !dynamic_cast<TextField*>(&control) && !dynamic_cast<ListControl*>(&control))
+      return false;
     QWidget& widget = Reach(control);
     // A word looked for in a list ends when the list is left.
     if (first && qobject_cast<QComboBox*>(&widget)) widget.clearFocus();
@@ -103,9 +105,7 @@ class WindowsWay : public Way {
       Enter(control, Reach(control));
       return true;
     }
-    if (!dynamic_cast<Button*>(&control) && !dynamic_cast<CheckBox*>(&control) &&
-        !dynamic_cast<OptionButton*>(&control))
-      return false;
+    if (!Clickable(control)) return false;
     Press(Reach(control));
     return true;
   }
@@ -237,33 +237,41 @@ class WindowsWay : public Way {
     return {std::min(rows.TextStart() + 4, rows.viewport()->width() - 1), place.center().y()};
   }
 
+  QSettings memory_;
+  Appearance appearance_;
+  WindowExtras extras_;
   QtWindows windows_;
   QtSettings settings_;
   PilotMessages messages_;
   PilotDialogs dialogs_;
 };
 
+/// By itself the offscreen platform has a smaller screen than the windows are made for.
+constexpr const char* kScreen = R"({"screens": [{"name": "", "x": 0, "y": 0, "width": 1920, "height": 1080,)"
+                                R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+
 /// The offscreen platform says at each window what it can't do; a pilot's reader has no use for it.
 void DropPlatformNotes(QtMsgType, const QMessageLogContext&, const QString& text) {
   if (!text.startsWith(QLatin1String("This plugin does not support"))) std::cerr << text.toStdString() << std::endl;
 }
 
-std::unique_ptr<Way> MakeWindowsWay(Script& script) { return std::make_unique<WindowsWay>(script); }
-
 }  // namespace
 
-Score RunFilesInWindows(const std::vector<std::string>& files, const Starter& starter, std::ostream& out) {
-  const tests::ScratchFolder home;
+std::unique_ptr<Way> MakeWindowsWay(Script& script) { return std::make_unique<WindowsWay>(script); }
+
+Desktop::Desktop() {
   for (const char* variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
-    setenv(variable, home.Path().c_str(), 1);
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    setenv(variable, home_.Path().c_str(), 1);
+  const char* platform = std::getenv("QT_QPA_PLATFORM");
+  if (!platform || std::string_view(platform) == "offscreen") {
+    home_.Write("screen.json", kScreen);
+    setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + home_.File("screen.json")).c_str(), 1);
+  }
   qInstallMessageHandler(DropPlatformNotes);
-  int count = 1;
-  char name[] = "pilot";
-  char* arguments[] = {name, nullptr};
-  const QApplication application(count, arguments);
-  QApplication::setQuitOnLastWindowClosed(false);
-  return RunFiles(files, MakeWindowsWay, starter, out);
+  application_ = std::make_unique<QApplication>(count_, arguments_);
+  SetUpApplication();
 }
+
+Desktop::~Desktop() = default;
 
 }  // namespace vorelio::pilot

@@ -1,0 +1,207 @@
+#include "exchange/adif_record.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "core/log_line.h"
+#include "core/text.h"
+
+namespace vorelio {
+
+namespace {
+
+[[noreturn]] void Refuse(std::string_view texte) { throw Erreur_Execution(Erreur::Argument_Invalide, texte); }
+
+bool Fin_D_Entete(std::string_view ligne) { return Majuscules(Coupe(ligne, 1, 5)) == "<EOH>"; }
+
+/// The value of the first tag that begins with `balise`, nothing without such a tag. The last `de_moins` characters
+/// before the "<" don't count.
+std::optional<std::string_view> Champ_ADIF(std::string_view ligne, std::string_view balise, std::size_t de_moins = 0) {
+  const auto place = ligne.find(balise);
+  if (place == std::string_view::npos) return std::nullopt;
+  const auto ouverture = ligne.find('>', place);
+  const auto fin = ouverture == std::string_view::npos ? ouverture : ligne.find('<', ouverture);
+  if (fin == std::string_view::npos) Refuse(balise);
+  std::string_view valeur = ligne.substr(ouverture + 1, fin - ouverture - 1);
+  valeur.remove_suffix(std::min(de_moins, valeur.size()));
+  return Rogne(valeur);
+}
+
+/// The same, with a value for a tag that is missing or empty.
+std::string Champ_Ou(std::string_view ligne, std::string_view balise, std::string_view defaut) {
+  const auto valeur = Champ_ADIF(ligne, balise);
+  return std::string(valeur && !valeur->empty() ? *valeur : defaut);
+}
+
+/// A date or a time put together from pieces of a value, `separateur` between them.
+std::string Morceaux(std::string_view valeur, std::initializer_list<std::pair<int, int>> places, char separateur) {
+  std::string texte;
+  for (const auto& [colonne, largeur] : places) {
+    if (colonne != places.begin()->first) texte += separateur;
+    texte.append(Coupe(valeur, colonne, largeur));
+  }
+  return texte;
+}
+
+std::string Heure(std::string_view valeur) { return Morceaux(valeur, {{1, 2}, {3, 2}}, ':'); }
+
+/// A report, and the number of the exchange behind it.
+std::string Rapport(std::string_view ligne, std::string_view balise, std::string_view balise_numero) {
+  std::string rapport = Champ_Ou(ligne, balise, "XX");
+  if (const auto numero = Champ_ADIF(ligne, balise_numero)) rapport.append(numero->empty() ? "XX" : *numero);
+  return rapport;
+}
+
+/// The band, empty if the record gives none that the log knows. A frequency counts more than a band, and loses its last
+/// character first, so that "144" is read as 14 MHz: logs of earlier imports were made so.
+std::string_view Bande(std::string_view ligne) {
+  auto valeur = Champ_ADIF(ligne, "<FREQ", 1);
+  if (valeur) {
+    valeur = Coupe(*valeur, 1, 5);
+    valeur = valeur->substr(0, valeur->find('.'));
+  } else {
+    valeur = Champ_ADIF(ligne, "<BAND");
+  }
+  return valeur ? Bande_ADIF(*valeur) : std::string_view{};
+}
+
+/// Department of France; the states and provinces of other countries begin with a letter.
+std::string Departement(std::string_view ligne) {
+  const std::string sans = "  ";
+  const auto valeur = Champ_ADIF(ligne, "<STATE");
+  if (!valeur) return sans;
+  if (valeur->empty()) Refuse("<STATE");
+  return valeur->front() >= '0' && valeur->front() <= '9' ? std::string(*valeur) : sans;
+}
+
+void Avance_Etat_QSL(std::string_view ligne, char& etat) {
+  const std::string envoyee = Champ_Ou(ligne, "<QSL_SENT", "N");
+  const std::string recue = Champ_Ou(ligne, "<QSL_RCVD", "N");
+  if (envoyee == "N" && recue == "N") etat = '1';
+  if (envoyee == "Y" && recue == "N") etat = '2';
+  if (envoyee == "N" && recue == "Y") etat = '3';
+  if (envoyee == "Y" && recue == "Y") etat = '4';
+  if (envoyee == "X" || recue == "X") etat = '1';
+}
+
+/// All of a log line from the record. The messages come out also when a field stops the reading.
+std::string Convertit(std::string_view ligne, char& etat_QSL, std::vector<std::string>& messages) {
+  Champs_QSO qso;
+
+  const std::string date = Champ_Ou(ligne, "<QSO_DATE", "");
+  qso.Date_A = Morceaux(date, {{7, 2}, {5, 2}, {3, 2}}, '/');
+  if (date.empty()) {
+    // It fills its ten columns; whoever reads eight of them finds 2020, as always.
+    qso.Date_A = "01/01/2000";
+    messages.push_back("Date absente, remplacée par 01/01/2000"_t);
+  }
+
+  const std::string debut = Champ_Ou(ligne, "<TIME_ON", "");
+  qso.Debut_A = Heure(debut);
+  if (debut.empty()) {
+    qso.Debut_A = "00:00";
+    messages.push_back("Heure absente, remplacée par 00:00"_t);
+  }
+  const auto fin = Champ_ADIF(ligne, "<TIME_OFF");
+  qso.Fin_A = !fin ? qso.Debut_A : fin->empty() ? "00:00" : Heure(*fin);
+
+  qso.Indicatif_A = Champ_Ou(ligne, "<CALL", "").substr(0, 12);
+  if (qso.Indicatif_A.empty()) {
+    qso.Indicatif_A = "FXXXX";
+    messages.push_back("Indicatif absent, remplacé par FXXXX"_t);
+  }
+
+  qso.Mode_A = Champ_Ou(ligne, "<MODE", "XXX");
+  qso.RSTE_A = Rapport(ligne, "<RST_SENT", "<STX");
+  qso.RSTR_A = Rapport(ligne, "<RST_RCVD", "<SRX");
+  qso.Locator_A = Champ_Ou(ligne, "<GRIDSQUARE", "").substr(0, 6);
+
+  qso.Bande_A = Bande(ligne);
+  if (qso.Bande_A.empty()) {
+    qso.Bande_A = "1.8 Mhz";
+    messages.push_back("Bande absente, remplacée par 1.8 Mhz"_t);
+  }
+
+  qso.QTH_A = Champ_Ou(ligne, "<QTH", "").substr(0, 20);
+  qso.Prenom_A = Champ_Ou(ligne, "<NAME", "").substr(0, 15);
+  Avance_Etat_QSL(ligne, etat_QSL);
+  qso.Bloc_QSL = Blancs(7) + etat_QSL + Blancs(19);
+  qso.Remarques_A = Champ_Ou(ligne, "<COMMENT", "").substr(0, 30);
+  qso.Depart_A = Departement(ligne);
+  qso.Activ_A = "0";
+  return Construit_Ligne(qso);
+}
+
+}  // namespace
+
+Premier_Moment Premier_ADIF(std::string_view texte) {
+  Lecteur_Lignes lignes(texte);
+  while (!lignes.Fini()) {
+    if (!Fin_D_Entete(lignes.Suivante())) continue;
+    std::string ligne;
+    while (ligne.empty()) ligne = Majuscules(lignes.Suivante());
+    const auto champ = [&](std::string_view nom) {
+      const auto valeur = Champ_ADIF(ligne, nom);
+      if (!valeur) Refuse(nom);
+      return *valeur;
+    };
+    const std::string_view date = champ("QSO_DATE");
+    return {Morceaux(date, {{7, 2}, {5, 2}, {1, 4}}, '/'), Heure(champ("TIME_ON"))};
+  }
+  return {};
+}
+
+std::vector<std::string_view> Enregistrements_ADIF(std::string_view texte) {
+  std::vector<std::string_view> enregistrements;
+  bool apres_entete = false;
+  for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
+    const std::string_view ligne = lignes.Suivante();
+    if (Fin_D_Entete(ligne)) {
+      apres_entete = true;
+    } else if (apres_entete && !ligne.empty()) {
+      enregistrements.push_back(ligne);
+    }
+  }
+  return enregistrements;
+}
+
+Ligne_Importee Ligne_ADIF(std::string_view enregistrement, char& etat_QSL) {
+  Ligne_Importee lue;
+  try {
+    lue.ligne = Convertit(Majuscules(enregistrement), etat_QSL, lue.messages);
+  } catch (const Erreur_Execution& erreur) {
+    lue.erreur = erreur.Genre();
+  }
+  return lue;
+}
+
+std::string_view Bande_ADIF(std::string_view valeur) {
+  struct Ligne_Table {
+    std::string_view valeur, bande;
+  };
+  static constexpr Ligne_Table kTable[] = {
+      {"160M", "1.8 Mhz"},  {"1.8", "1.8 Mhz"},                                          //
+      {"80M", "3.5 Mhz"},   {"3.5", "3.5 Mhz"},  {"3.6", "3.5 Mhz"},  {"3", "3.5 Mhz"},  //
+      {"40M", "7.0 Mhz"},   {"7", "7.0 Mhz"},                                            //
+      {"30M", "10 Mhz"},    {"10", "10 Mhz"},                                            //
+      {"20M", "14 Mhz"},    {"14", "14 Mhz"},                                            //
+      {"17M", "18 Mhz"},    {"18", "18 Mhz"},                                            //
+      {"15M", "21 Mhz"},    {"21", "21 Mhz"},                                            //
+      {"12M", "24 Mhz"},    {"24", "24 Mhz"},                                            //
+      {"10M", "28 Mhz"},    {"28", "28 Mhz"},                                            //
+      {"6M", "50 Mhz"},     {"50", "50 Mhz"},                                            //
+      {"2M", "144 Mhz"},    {"144", "144 Mhz"},  {"145", "144 Mhz"},                     //
+      {"70CM", "432 Mhz"},  {"432", "432 Mhz"},                                          //
+      {"23CM", "1.3 Ghz"},  {"1300", "1.3 Ghz"},                                         //
+      {"13CM", "2.3 Ghz"},  {"2300", "2.3 Ghz"},                                         //
+      {"6CM", "5.7 Ghz"},   {"5660", "5.7 Ghz"}, {"5700", "5.7 Ghz"},                    //
+      {"3CM", "10 Ghz"},    {"10000", "10 Ghz"},                                         //
+      {"1.25CM", "24 Ghz"}, {"24000", "24 Ghz"},
+  };
+  const auto place = std::find_if(std::begin(kTable), std::end(kTable),
+                                  [&](const Ligne_Table& ligne) { return ligne.valeur == valeur; });
+  return place == std::end(kTable) ? std::string_view{} : place->bande;
+}
+
+}  // namespace vorelio

@@ -1,0 +1,176 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/log_line.h"
+#include "core/programme.h"
+#include "core/text.h"
+#include "entry/ddfm.h"
+#include "exchange/adif_import.h"
+#include "exchange/edi_import.h"
+#include "exchange/log_splice.h"
+#include "exchange/native_import.h"
+#include "fuzz/memory_disk.h"
+#include "support/doubles.h"
+#include "support/ready_station.h"
+#include "support/scratch_folder.h"
+
+namespace vorelio::tests {
+
+/// One importer, fed with whole files: each goes into the same log of three contacts. What must hold is checked here,
+/// and a breach aborts, as fuzzers want it.
+class ImportTarget {
+ public:
+  struct Importer {
+    const char* name;
+    void (*import)(Programme&);
+    const char* work_file;
+    /// Numbers of the run-time errors that a file may end the import with.
+    std::set<int> errors;
+    /// Whether all lines that come in are whole log lines.
+    bool whole_lines;
+    /// A file that goes well, to begin from.
+    const char* seed;
+  };
+
+  static const Importer& Adif() {
+    static const Importer importer{"ADIF",
+                                   Sous_Programmes::Importe_ADIF,
+                                   "Temporaire8.txt",
+                                   {5, 13, 62},
+                                   true,
+                                   "Export\r\n<EOH>\r\n"
+                                   "<CALL:5>F6ABC<QSO_DATE:8>20030512<TIME_ON:6>123456<TIME_OFF:4>1240<BAND:3>20M"
+                                   "<FREQ:6>14.195<MODE:3>SSB<RST_SENT:2>59<STX:3>001<RST_RCVD:2>59<SRX:1>2"
+                                   "<GRIDSQUARE:6>JN33BB<NAME:5>Ren\xC3\xA9<QTH:4>Nice<STATE:2>06<COMMENT:2>ok"
+                                   "<QSL_SENT:1>Y<QSL_RCVD:1>N<EOR>\r\n"
+                                   "<QSO_DATE:8>20491231<TIME_ON:4>0000<CALL:6>TK5AAA<BAND:2>2M<EOR>\r\n"};
+    return importer;
+  }
+  static const Importer& Edi() {
+    // A mode code such as "1E999" is a number too large.
+    static const Importer importer{"EDI",
+                                   Sous_Programmes::Importe_EDI,
+                                   "Temporaire7.txt",
+                                   {5, 6, 13, 62},
+                                   true,
+                                   "[REG1TEST;1]\r\nTName=Rallye\r\nPCall=F9QZX\r\nPBand=144\r\n[Remarks]\r\n"
+                                   "[QSORecords;2]\r\n030512;1234;F9XKV;1;59;001;59;002;;JN33BB;12;;;;\r\n"
+                                   "030512;1235;DL1XYZ/P;2;599;002;599;017;;JO40AA;512;;;;\r\n"};
+    return importer;
+  }
+  static const Importer& Native() {
+    static const std::string seed = Contact("12/05/03", "14 Mhz") + "\r\n" + Contact("13/05/03", "144 Mhz") + "\n";
+    static const Importer importer{"CTF",       Sous_Programmes::Importe_CTF, "Temporaire7.txt", {5, 13, 62}, false,
+                                   seed.c_str()};
+    return importer;
+  }
+
+  explicit ImportTarget(const Importer& importer) : importer_(importer) {
+    const ScratchFolder templates;
+    CopyTemplates(templates.Path());
+    for (const char* name : {"FXXXX.log", "FXXXX_Departement.txt", "FXXXX_Locator.txt", "FXXXX_Prefixe.txt"}) {
+      templates_[Path(name)] = templates.Read(name);
+      templates_[Path(kStation + std::string(name).substr(5))] = templates.Read(name);
+    }
+    SeedStationSettings(settings_, kFolder, '/', kStation, "JN33BB");
+    log_ = Contact("12/05/02", "14 Mhz") + "\r\n" + Contact("12/05/03", "144 Mhz") + "\r\n" +
+           Contact("31/12/49", "14 Mhz") + "\r\n";
+    Start();
+  }
+
+  /// Imports one file; gives the number of the error that has ended it, 0 if none has.
+  int Run(std::string_view file) {
+    disk_.files = templates_;
+    disk_.files[Path("in")] = file;
+    disk_.files[Path("F9QZX.log")] = log_;
+    messages_.Forget();
+    messages_.fatal_number = 0;
+    dialogs_.Choose(Path("in"));
+    programme_->Recoit([&] { importer_.import(*programme_); });
+    const int error = messages_.fatal_number;
+    Check(error);
+    if (programme_->Termine_Deja()) Start();
+    return error;
+  }
+
+ private:
+  static constexpr const char* kFolder = "/station";
+  static constexpr const char* kStation = "F9QZX";
+
+  static std::string Path(const std::string& name) { return std::string(kFolder) + "/" + name; }
+
+  static std::string Contact(const char* date, const char* band) {
+    Champs_QSO qso;
+    qso.Date_A = date;
+    qso.Debut_A = "12:00";
+    qso.Indicatif_A = "F6ABC";
+    qso.Depart_A = "06";
+    qso.Locator_A = "JN33BB";
+    qso.Bande_A = band;
+    return Construit_Ligne(qso);
+  }
+
+  void Start() {
+    disk_.files = templates_;
+    disk_.files[Path("F9QZX.log")] = log_;
+    programme_ =
+        std::make_unique<Programme>(Platform{settings_, messages_, dialogs_, clock_, windows_, disk_, kFolder});
+    programme_->Recoit([&] { programme_->Fenetre<DDFM>(); });
+  }
+
+  void Require(bool held, const char* what) const {
+    if (held) return;
+    std::fprintf(stderr, "%s import: %s\n", importer_.name, what);
+    std::abort();
+  }
+
+  void Check(int error) {
+    const std::string& log = disk_.files[Path("F9QZX.log")];
+    std::vector<std::string_view> old, lines;
+    for (Lecteur_Lignes reader(log_); !reader.Fini();) old.push_back(reader.Suivante());
+    for (Lecteur_Lignes reader(log); !reader.Fini();) lines.push_back(reader.Suivante());
+    const bool marked = std::any_of(lines.begin(), lines.end(), Est_Repere);
+
+    Require(error == 0 || importer_.errors.count(error) > 0, "an error that no file may end in");
+    Require(error != 0 || !programme_->Termine_Deja(), "the program has ended without a word");
+    Require(disk_.Exists(Path(importer_.work_file)) ? marked : true, "a work file without a marker");
+    if (marked) {
+      Require(error != 0, "a marker is left of an import that went well");
+      Require(log.starts_with(log_) && lines.size() == old.size() + 1, "a log half written");
+      return;
+    }
+    // The old lines are there in their order, and what has come in stands together.
+    Require(lines.size() >= old.size(), "lines of the log are lost");
+    const std::size_t added = lines.size() - old.size();
+    std::size_t place = 0;
+    while (place < old.size() && lines[place] == old[place]) ++place;
+    Require(std::equal(old.begin() + static_cast<std::ptrdiff_t>(place), old.end(),
+                       lines.begin() + static_cast<std::ptrdiff_t>(place + added)),
+            "the block isn't in one piece");
+    Require(!importer_.whole_lines ||
+                std::all_of(lines.begin(), lines.end(),
+                            [](std::string_view line) { return line.size() == kLargeur_Ligne && line.ends_with('*'); }),
+            "a line that is no log line");
+  }
+
+  const Importer& importer_;
+  std::map<std::string, std::string> templates_;
+  std::string log_;
+  MapSettings settings_;
+  RecordedMessages messages_;
+  QueuedDialogs dialogs_;
+  FixedClock clock_;
+  SilentWindows windows_;
+  MemoryDisk disk_;
+  std::unique_ptr<Programme> programme_;
+};
+
+}  // namespace vorelio::tests

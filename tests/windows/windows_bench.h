@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QTest>
+#include <QVBoxLayout>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/programme.h"
+#include "core/station_files.h"
+#include "platform/posix_disk.h"
+#include "platform/qt/binder.h"
+#include "platform/qt/qt_windows.h"
+#include "support/doubles.h"
+#include "support/ready_station.h"
+#include "support/scratch_folder.h"
+#include "windows/suite.h"
+
+namespace vorelio::tests {
+
+/// A program on the real windows, with doubles for all else and a station of its own.
+struct WindowsBench {
+  WindowsBench();
+
+  template <typename F>
+  F& Open() {
+    windows.Deliver(programme, [this] { programme.Fenetre<F>().Show(); });
+    windows.ShowPending();
+    return programme.Fenetre<F>();
+  }
+
+  ScratchFolder folder;
+  MapSettings settings;
+  RecordedMessages messages;
+  QueuedDialogs dialogs;
+  FixedClock clock;
+  PosixDisk disk;
+  QtWindows windows;
+  Programme programme;
+};
+
+/// A gate that lets everything through and notes what passes.
+class OpenGate : public Gate {
+ public:
+  void Deliver(Programme& programme, const std::function<void()>& action) override { programme.Recoit(action); }
+  void Later(View& view) override {
+    ++asked;
+    waiting.emplace_back(&view);
+  }
+  void Notice(QWidget&, const QString& text) override { notices << text; }
+  void FocusLost() override { ++lost; }
+
+  void Refresh() {
+    for (const QPointer<View>& view : std::exchange(waiting, {}))
+      if (view) view->Refresh();
+  }
+
+  QStringList notices;
+  int asked = 0;
+  int lost = 0;
+  std::vector<QPointer<View>> waiting;
+};
+
+/// Forms are made by the program; a test's form derives from this and holds the controls that the test is about.
+class TestForm : public Form {
+ public:
+  explicit TestForm(Programme& programme) : Form(programme, "Essai", "Essai") {}
+};
+
+/// A form of the test's own, bound to widgets of the test's own.
+template <typename F>
+struct ControlBench {
+  ControlBench() : programme({settings, messages, dialogs, clock, screen, disk, folder.Path(), '/'}) {
+    programme.Recoit([this] { programme.Fenetre<F>().Show(); });
+    new QVBoxLayout(&window);
+  }
+
+  F& form() { return programme.Fenetre<F>(); }
+
+  /// A widget of the window that bears a control's name.
+  template <typename W>
+  W* Add(W* widget, const char* name) {
+    widget->setObjectName(QString::fromLatin1(name));
+    window.layout()->addWidget(widget);
+    return widget;
+  }
+
+  void Bind() {
+    binding = std::make_unique<Binding>(form(), window, gate);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+  }
+
+  ScratchFolder folder;
+  MapSettings settings;
+  RecordedMessages messages;
+  QueuedDialogs dialogs;
+  FixedClock clock;
+  SilentWindows screen;
+  PosixDisk disk;
+  OpenGate gate;
+  Programme programme;
+  QWidget window;
+  std::unique_ptr<Binding> binding;
+};
+
+}  // namespace vorelio::tests
