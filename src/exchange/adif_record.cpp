@@ -63,7 +63,7 @@ std::string_view Bande(std::string_view ligne) {
   } else {
     valeur = Champ_ADIF(ligne, "<BAND");
   }
-  return valeur ? Bande_ADIF(*valeur) : std::string_view{};
+  return valeur ? Bande_Importee(*valeur) : std::string_view{};
 }
 
 /// Department of France; the states and provinces of other countries begin with a letter.
@@ -176,7 +176,7 @@ Ligne_Importee Ligne_ADIF(std::string_view enregistrement, char& etat_QSL) {
   return lue;
 }
 
-std::string_view Bande_ADIF(std::string_view valeur) {
+std::string_view Bande_Importee(std::string_view valeur) {
   struct Ligne_Table {
     std::string_view valeur, bande;
   };

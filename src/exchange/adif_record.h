@@ -25,6 +25,6 @@ Ligne_Importee Ligne_ADIF(std::string_view enregistrement, char& etat_QSL);
 inline constexpr char kEtat_QSL_Inconnu = '0';
 
 /// The band text of the log for a value of <BAND or <FREQ, already in capitals; the empty text if it means none.
-std::string_view Bande_ADIF(std::string_view valeur);
+std::string_view Bande_Importee(std::string_view valeur);
 
 }  // namespace vorelio

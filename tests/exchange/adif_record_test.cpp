@@ -164,9 +164,9 @@ TEST(AdifRecord, EveryValueOfTheBandTable) {
                      {"10 Ghz", {"3CM", "10000"}},
                      {"24 Ghz", {"1.25CM", "24000"}}};
   for (const auto& c : cases)
-    for (const char* value : c.values) EXPECT_EQ(Bande_ADIF(value), c.band) << value;
+    for (const char* value : c.values) EXPECT_EQ(Bande_Importee(value), c.band) << value;
   for (const char* value : {"", "60M", "4M", "1296", "146", "XX MHZ", "1", "20"})
-    EXPECT_EQ(Bande_ADIF(value), "") << value;
+    EXPECT_EQ(Bande_Importee(value), "") << value;
 }
 
 TEST(AdifRecord, QslStatesAreCarriedOver) {

@@ -227,6 +227,22 @@ TEST_F(AwardExportWindow, TheContactIsTheOneSelectedAtThePress) {
   EXPECT_EQ(Read("companion/F6ABC_DCI.log").substr(34, 5), "TO001");
 }
 
+TEST_F(AwardExportWindow, OfTwoAwardsTheLaterOneIsExportedTo) {
+  Install("DCI");
+  Write("companion/F6ABC_DCI.log", "");
+  Open("DFCF 1 DCI");
+  Export();
+  EXPECT_EQ(messages.TakeMessages(), Lines{" 1 Nouvelle Province"});
+  EXPECT_EQ(Read("companion/F6ABC_DCI.log").substr(34, 5), " 1 DC");
+
+  // The one that is installed has enabled the button; the later one has no folder.
+  disk.Forget();
+  Open("DAI DCI IM122");
+  Export();
+  EXPECT_EQ(programme->Erreur_Fatale(), 53);
+  EXPECT_EQ(disk.Log(), Lines{"read X:/XXXXXXX/FXXXX_DAI.log"});
+}
+
 TEST_F(AwardExportWindow, AFileThatCannotBeReadOrWrittenEndsTheProgram) {
   const struct {
     const char* what;

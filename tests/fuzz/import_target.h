@@ -92,6 +92,8 @@ class ImportTarget {
     disk_.files[Path("in")] = file;
     disk_.files[Path("F9QZX.log")] = log_;
     messages_.Forget();
+    dialogs_.calls.clear();
+    windows_.events.clear();
     messages_.fatal_number = 0;
     dialogs_.Choose(Path("in"));
     programme_->Recoit([&] { importer_.import(*programme_); });
@@ -141,7 +143,7 @@ class ImportTarget {
 
     Require(error == 0 || importer_.errors.count(error) > 0, "an error that no file may end in");
     Require(error != 0 || !programme_->Termine_Deja(), "the program has ended without a word");
-    Require(disk_.Exists(Path(importer_.work_file)) ? marked : true, "a work file without a marker");
+    Require(marked || !disk_.Exists(Path(importer_.work_file)), "a work file without a marker");
     if (marked) {
       Require(error != 0, "a marker is left of an import that went well");
       Require(log.starts_with(log_) && lines.size() == old.size() + 1, "a log half written");

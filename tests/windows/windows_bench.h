@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QPushButton>
 #include <QString>
 #include <QTest>
 #include <QVBoxLayout>

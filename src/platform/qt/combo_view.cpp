@@ -125,6 +125,10 @@ bool ComboView::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
       if (TakeKeyPress(static_cast<const QKeyEvent&>(*event))) return true;
+      if (TypesByMistake(static_cast<const QKeyEvent&>(*event))) {
+        event->ignore();
+        return true;
+      }
       break;
     case QEvent::InputMethod:
       if (auto rest = TakeCommit(static_cast<const QInputMethodEvent&>(*event), gate_, shown_,

@@ -86,11 +86,11 @@ bool MultiLineView::eventFilter(QObject* watched, QEvent* event) {
   if (!Bound()) return false;
   const KeyTaker take = [this](int key) { TakeKey(key); };
   if (event->type() == QEvent::KeyPress) {
-    const QString typed = TypedCharacters(static_cast<const QKeyEvent&>(*event));
-    if (!typed.isEmpty()) {
-      Type(typed, gate_, shown_, take);
-      return true;
-    }
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    const QString typed = TypedCharacters(key);
+    if (!typed.isEmpty()) Type(typed, gate_, shown_, take);
+    if (TypesByMistake(key)) event->ignore();
+    if (!typed.isEmpty() || TypesByMistake(key)) return true;
   } else if (event->type() == QEvent::InputMethod) {
     if (auto rest = TakeCommit(static_cast<const QInputMethodEvent&>(*event), gate_, shown_, take)) {
       QCoreApplication::sendEvent(&shown_, &*rest);

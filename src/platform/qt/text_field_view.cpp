@@ -117,6 +117,10 @@ bool TextFieldView::eventFilter(QObject* watched, QEvent* event) {
       const QString typed = opens ? QString() : TypedCharacters(key);
       if (!typed.isEmpty()) Type(typed, gate_, shown_, take);
       if (opens || !typed.isEmpty()) return true;
+      if (TypesByMistake(key)) {
+        event->ignore();
+        return true;
+      }
       break;
     }
     case QEvent::InputMethod:

@@ -5,15 +5,20 @@
 
 namespace vorelio {
 
+namespace {
+bool Printable(const QString& text) { return !text.isEmpty() && (text[0].isPrint() || text[0].isSurrogate()); }
+}  // namespace
+
 QString TypedCharacters(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return QStringLiteral("\r");
   const Qt::KeyboardModifiers held = event.modifiers();
   // Control and Alt together are AltGr on some keyboards, and type characters; one of them alone is a shortcut.
   const bool control = held.testFlag(Qt::ControlModifier), alt = held.testFlag(Qt::AltModifier);
   if (control != alt || held.testFlag(Qt::MetaModifier)) return {};
-  const QString text = event.text();
-  return !text.isEmpty() && (text[0].isPrint() || text[0].isSurrogate()) ? text : QString();
+  return Printable(event.text()) ? event.text() : QString();
 }
+
+bool TypesByMistake(const QKeyEvent& event) { return TypedCharacters(event).isEmpty() && Printable(event.text()); }
 
 QString RefusedCharacter(const QString& character) {
   return QStringLiteral("Ce caractère ne peut pas être noté dans le journal : ") + character;

@@ -18,6 +18,10 @@ using KeyTaker = std::function<void(int key)>;
 /// shortcuts).
 QString TypedCharacters(const QKeyEvent& event);
 
+/// Whether a key press that types nothing is one that Qt's fields would type all the same: a letter with Alt that is no
+/// mnemonic of the window.
+bool TypesByMistake(const QKeyEvent& event);
+
 /// Gives the characters of `typed` to `take` one by one. One outside the character set is refused with a notice at
 /// `place`; the others are taken all the same.
 void Type(const QString& typed, Gate& gate, QWidget& place, const KeyTaker& take);
