@@ -8,15 +8,15 @@ namespace vorelio {
 
 /// The text of a band as the log holds it, and its index is that of the setting "bande Utilisee".
 inline constexpr std::array<std::string_view, 17> kBandes = {
-    "1.8 Mhz", "3.5 Mhz", "7.0 Mhz", "10 Mhz", "14 Mhz",  "18 Mhz",  "21 Mhz", "24 Mhz", "28 Mhz",
+    "1.8 Mhz", "3.5 Mhz", "7.0 Mhz", "10 Mhz",  "14 Mhz",  "18 Mhz",  "21 Mhz", "24 Mhz", "28 Mhz",
     "50 Mhz",  "144 Mhz", "432 Mhz", "1.3 Ghz", "2.3 Ghz", "5.7 Ghz", "10 Ghz", "24 Ghz"};
 
 /// The first nine bands are HF: no locator is kept for them, and no square is tallied.
 inline constexpr int kBandes_HF = 9;
 
-inline constexpr std::array<std::string_view, 16> kModes = {"SSB",  "CW",    "FM",   "AM",    "RELAIS", "SSTV",
-                                                            "PSK31", "HELL", "MFSK", "RTTY",  "THROB",  "MT63",
-                                                            "JT44", "PACKET", "SAT", "AUTRE"};
+inline constexpr std::array<std::string_view, 16> kModes = {"SSB",   "CW",     "FM",   "AM",   "RELAIS", "SSTV",
+                                                            "PSK31", "HELL",   "MFSK", "RTTY", "THROB",  "MT63",
+                                                            "JT44",  "PACKET", "SAT",  "AUTRE"};
 
 /// The fields of the locator grid that are tallied and have a map.
 inline constexpr std::array<std::string_view, 9> kChamps_Locator = {"IO", "IN", "IM", "JO", "JN",

@@ -62,7 +62,8 @@ inline std::string_view Partie_Log(std::string_view ligne_liste) {
 
 /// What a log line is made of, as texts of the fields.
 struct Champs_QSO {
-  std::string Date_A, Indicatif_A, Debut_A, Fin_A, Depart_A, Locator_A, Bande_A, Mode_A, RSTE_A, RSTR_A, QTH_A, Prenom_A;
+  std::string Date_A, Indicatif_A, Debut_A, Fin_A, Depart_A, Locator_A, Bande_A, Mode_A, RSTE_A, RSTR_A, QTH_A,
+      Prenom_A;
   std::string Bloc_QSL = Bloc_Sans_QSL();
   std::string Distance_A, Azimut_A, Activ_A, Remarques_A;
 

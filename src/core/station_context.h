@@ -20,8 +20,8 @@ struct Contexte_Station {
   std::string Delta_Sauvegarde;   ///< Contacts between two automatic backups, as number text.
 };
 
-inline constexpr const char* kStation_Modele = "FXXXX";     ///< The template station, before the first run.
-inline constexpr const char* kSans_Locator = "------";      ///< The locator of a station that has none.
+inline constexpr const char* kStation_Modele = "FXXXX";       ///< The template station, before the first run.
+inline constexpr const char* kSans_Locator = "------";        ///< The locator of a station that has none.
 inline constexpr const char* Revision_Programme = " 5.6.9d";  ///< Leading blank included.
 
 /// The revision history, oldest first, a CR LF after each line.

@@ -20,17 +20,20 @@ constexpr char32_t Point_1252(char octet);
 
 namespace detail {
 
-inline constexpr char32_t kPoints_80_9F[32] = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+inline constexpr char32_t kPoints_80_9F[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                               0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                               0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                               0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 /// Reads one UTF-8 character at `place` and moves behind it; a broken sequence gives U+FFFD and moves by one.
 constexpr char32_t Point_Suivant(std::string_view utf8, std::size_t& place) {
   constexpr char32_t kCasse = 0xFFFD;
   const auto tete = static_cast<unsigned char>(utf8[place++]);
   if (tete < 0x80) return tete;
-  const int suite = tete >= 0xF0 && tete < 0xF5 ? 3 : tete >= 0xE0 && tete < 0xF0 ? 2 : tete >= 0xC2 && tete < 0xE0 ? 1 : 0;
+  const int suite = tete >= 0xF0 && tete < 0xF5   ? 3
+                    : tete >= 0xE0 && tete < 0xF0 ? 2
+                    : tete >= 0xC2 && tete < 0xE0 ? 1
+                                                  : 0;
   if (suite == 0 || place + static_cast<std::size_t>(suite) > utf8.size()) return kCasse;
   char32_t point = tete & (0x3FU >> suite);
   for (int i = 0; i < suite; ++i) {
@@ -53,7 +56,8 @@ struct Litteral {
   // NOLINTNEXTLINE(google-explicit-constructor): the literal operator needs the implicit form.
   consteval Litteral(const char (&utf8)[N]) {
     const std::string_view texte(utf8, N - 1);
-    for (std::size_t place = 0; place < texte.size();) octets[taille++] = Octet_1252(Point_Suivant(texte, place)).value();
+    for (std::size_t place = 0; place < texte.size();)
+      octets[taille++] = Octet_1252(Point_Suivant(texte, place)).value();
   }
 };
 

@@ -29,17 +29,17 @@ class DDFM : public Form {
   void Form_Load() override;
 
   // --- Station and clocks ---
-  Frame Frame5{*this, "Frame5"};              ///< "Vorelio de " and the callsign.
-  Label I_Station{*this, "I_Station"};        ///< Callsign with "/".
-  Label L_Station{*this, "L_Station"};        ///< Locator.
-  Label Label15{*this, "Label15"};            ///< "Date automatique" or "Date manuelle".
-  Label Label33{*this, "Label33"};            ///< Date, UTC or local by the option.
-  Label Label34{*this, "Label34"};            ///< Local time.
-  Label Label37{*this, "Label37"};            ///< UTC time.
+  Frame Frame5{*this, "Frame5"};        ///< "Vorelio de " and the callsign.
+  Label I_Station{*this, "I_Station"};  ///< Callsign with "/".
+  Label L_Station{*this, "L_Station"};  ///< Locator.
+  Label Label15{*this, "Label15"};      ///< "Date automatique" or "Date manuelle".
+  Label Label33{*this, "Label33"};      ///< Date, UTC or local by the option.
+  Label Label34{*this, "Label34"};      ///< Local time.
+  Label Label37{*this, "Label37"};      ///< UTC time.
   Timer Timer1{*this, "Timer1", 1000};
 
   // --- Entry form, in the order of the chain ---
-  Frame Frame4{*this, "Frame4"};              ///< Number of the contact.
+  Frame Frame4{*this, "Frame4"};  ///< Number of the contact.
   ComboBox Bande_A;
   TextField Indicatif_A{*this, "Indicatif_A"};
   Label Label5{*this, "Label5", "Indicatif"};  ///< "Contacté le ...", "Nouvel indicatif".
@@ -66,19 +66,19 @@ class DDFM : public Form {
   Button Recherche{*this, "Recherche", "Chercher QSO"};
   Button Gestion_QSL{*this, "Gestion_QSL", "Gestion QSL"};
   Button Exporter{*this, "Exporter", "Exporter QSO"};
-  Label NB_Debug{*this, "NB_Debug"};          ///< The step that a save has reached.
-  Label Etat{*this, "Etat"};                  ///< Status line: how far an import is, what it has brought.
+  Label NB_Debug{*this, "NB_Debug"};  ///< The step that a save has reached.
+  Label Etat{*this, "Etat"};          ///< Status line: how far an import is, what it has brought.
 
   // --- Grid ---
   Frame Frame3;
   ControlArray<TextField> Dpt{*this, "Dpt", 0, 100};
-  ControlArray<OptionButton> Option1;         ///< 1: departments, 0: squares.
+  ControlArray<OptionButton> Option1;  ///< 1: departments, 0: squares.
   ComboBox Bande_DDFM{*this, "Bande_DDFM", ComboBox::Kind::Choice};
   ComboBox Carre_DDFM{*this, "Carre_DDFM", ComboBox::Kind::Choice, "JN"};
-  Label Label27;                              ///< Legend: worked.
-  Label Label26;                              ///< Legend: QSL sent.
-  Label Label30;                              ///< Legend: QSL received.
-  Label Label1;                               ///< Legend: confirmed.
+  Label Label27;  ///< Legend: worked.
+  Label Label26;  ///< Legend: QSL sent.
+  Label Label30;  ///< Legend: QSL received.
+  Label Label1;   ///< Legend: confirmed.
 
   // --- Log ---
   ListBox Liste_QSO{*this, "Liste_QSO", ListBox::Kind::Sorted};

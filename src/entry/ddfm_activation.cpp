@@ -14,11 +14,11 @@ namespace {
 /// A kind of reference: what a choice of the activity writes into the form, and what its number must be like.
 struct Reference {
   std::string_view activite;
-  std::string_view prefixe;   ///< Start of `QTH_A`.
-  int curseur;                ///< Characters before the caret, behind the prefix.
-  std::string_view debut;     ///< Start of `Remarques_A`; empty: it stays as it is.
-  std::size_t longueur = 0;   ///< Of `QTH_A` at the end; 0: only the general limit.
-  int departement = 0;        ///< Column of `QTH_A` at which the department of the contact stands; 0: none.
+  std::string_view prefixe;  ///< Start of `QTH_A`.
+  int curseur;               ///< Characters before the caret, behind the prefix.
+  std::string_view debut;    ///< Start of `Remarques_A`; empty: it stays as it is.
+  std::size_t longueur = 0;  ///< Of `QTH_A` at the end; 0: only the general limit.
+  int departement = 0;       ///< Column of `QTH_A` at which the department of the contact stands; 0: none.
   std::string_view exemple = {};
 };
 
@@ -86,8 +86,8 @@ bool DDFM::Reference_Bonne() {
   if (!reference || reference->longueur == 0) return true;
   const std::string activite(reference->activite);
   if (QTH_A.Text().size() != reference->longueur) {
-    programme_.Message("Attention " + std::to_string(reference->longueur) + " caracteres pour le " + activite + " ex '" +
-                       std::string(reference->exemple) + "'");
+    programme_.Message("Attention " + std::to_string(reference->longueur) + " caracteres pour le " + activite +
+                       " ex '" + std::string(reference->exemple) + "'");
     return false;
   }
   if (reference->departement != 0 && Coupe(QTH_A.Text(), reference->departement, 2) != Depart_A.Text()) {

@@ -55,8 +55,7 @@ bool DDFM::Heure_Refusee(const TextField& champ) {
 
 void DDFM::Debut_A_KeyPress(int& touche) {
   if (Acceptee(touche)) {
-    if (Vide(Debut_A))
-      return programme_.Message("Attention vous devez entrer l'heure de debut (pour le classement) ");
+    if (Vide(Debut_A)) return programme_.Message("Attention vous devez entrer l'heure de debut (pour le classement) ");
     if (Heure_Refusee(Debut_A)) return;
     Avance(Debut_A, Fin_A);
   }

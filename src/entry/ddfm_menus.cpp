@@ -79,7 +79,8 @@ void DDFM::Mnu_Restauration_Click() {
                                 "et remplacé par ceux de la derniere sauvegarde, Continuer ?"_t))
     return;
   Restaure_Sauvegarde(programme_);
-  programme_.Message("Les fichiers :\r\n\r\nIndicatif.log\r\nDepartement.txt\r\nLocator.txt\r\nPrefixe.txt\r\nSont restaurés"_t);
+  programme_.Message(
+      "Les fichiers :\r\n\r\nIndicatif.log\r\nDepartement.txt\r\nLocator.txt\r\nPrefixe.txt\r\nSont restaurés"_t);
   Charge_Log(programme_, programme_.contexte.Station_Indicatif);
 }
 

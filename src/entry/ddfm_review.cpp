@@ -119,8 +119,8 @@ void DDFM::Annuler_Click() {
   Choisit_Activite();
   programme_.saisie.QSO_Edition = false;
 
-  for (TextField* champ : {&Indicatif_A, &Depart_A, &Locator_A, &Date_A, &Debut_A, &Fin_A, &Prenom_A, &QTH_A,
-                           &Remarques_A}) {
+  for (TextField* champ :
+       {&Indicatif_A, &Depart_A, &Locator_A, &Date_A, &Debut_A, &Fin_A, &Prenom_A, &QTH_A, &Remarques_A}) {
     champ->Clear();
     champ->SetColour(kFait);
   }

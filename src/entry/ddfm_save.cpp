@@ -66,8 +66,8 @@ void DDFM::Enregistre_Nouveau() {
 
   // The lowest band is judged by its field, the others by the band confirmed last: a band picked in the middle of an
   // entry reaches the line alone.
-  const bool sans_locator = Bande_A.Text() == kBandes[0] ||
-                            (contexte.Bande_Courante != kBandes[0] && Bande_HF(contexte.Bande_Courante));
+  const bool sans_locator =
+      Bande_A.Text() == kBandes[0] || (contexte.Bande_Courante != kBandes[0] && Bande_HF(contexte.Bande_Courante));
   if (sans_locator) Locator_A.Clear();
   Champs_QSO qso = Champs_Saisis();
   if (qso.Activ_A == "-1") programme_.Message("Debug : Activation_A = -1");
@@ -110,11 +110,10 @@ void DDFM::Question_Repertoire() {
   if (Locator_A.Text() == saisie.Locator_Nomenclature && saisie.Depart_Saisi == saisie.Depart_Nomenclature) return;
   if (saisie.Depart_Nomenclature.empty()) saisie.Depart_Nomenclature = "XX";
   if (saisie.Locator_Nomenclature.empty()) saisie.Locator_Nomenclature = "XXXXXX";
-  const bool oui = programme_.Question("Remplacer " + saisie.Indicatif_Saisi + " Département "_t +
-                                       Forme_Affichee(saisie.Depart_Nomenclature) + " Locator " +
-                                       saisie.Locator_Nomenclature + "\r\n\r\n      par " + saisie.Indicatif_Saisi +
-                                       " département "_t + Forme_Affichee(saisie.Depart_Saisi) + " Locator " +
-                                       Locator_A.Text() + " ?");
+  const bool oui = programme_.Question(
+      "Remplacer " + saisie.Indicatif_Saisi + " Département "_t + Forme_Affichee(saisie.Depart_Nomenclature) +
+      " Locator " + saisie.Locator_Nomenclature + "\r\n\r\n      par " + saisie.Indicatif_Saisi + " département "_t +
+      Forme_Affichee(saisie.Depart_Saisi) + " Locator " + Locator_A.Text() + " ?");
   if (!oui) return;
   NB_Debug.SetCaption("3");
   Maj_Nomenclature(programme_, saisie.Indicatif_Saisi, saisie.Depart_Saisi, Locator_A.Text());
@@ -151,8 +150,9 @@ bool DDFM::Enregistre_Edition() {
   qso.Indicatif_A = Majuscules(qso.Indicatif_A);
   qso.Locator_A = Majuscules(qso.Locator_A);
   // Filled up to its width, or a line cut short would shift what follows.
-  qso.Bloc_QSL = Complete(Coupe(Liste_QSO.Text(), champs::Bloc_QSL.colonne + kColonnes_Numero, champs::Bloc_QSL.largeur),
-                          champs::Bloc_QSL.largeur);
+  qso.Bloc_QSL =
+      Complete(Coupe(Liste_QSO.Text(), champs::Bloc_QSL.colonne + kColonnes_Numero, champs::Bloc_QSL.largeur),
+               champs::Bloc_QSL.largeur);
   if (qso.Activ_A == "-1") programme_.Message("Debug : Activation_A = -1");
   const std::string ligne = Colonne_Numero(saisie.Numero_Selection) + Construit_Ligne(qso);
 
@@ -165,13 +165,13 @@ bool DDFM::Enregistre_Edition() {
   NB_Debug.SetCaption("12");
   Liste_QSO.SetListIndex(saisie.Numero_Selection - 1);
 
-  for (Control* libre : {static_cast<Control*>(&Indicatif_A), static_cast<Control*>(&Bande_A),
-                         static_cast<Control*>(&Recherche), static_cast<Control*>(&Annuler),
-                         static_cast<Control*>(&Gestion_QSL)})
+  for (Control* libre :
+       {static_cast<Control*>(&Indicatif_A), static_cast<Control*>(&Bande_A), static_cast<Control*>(&Recherche),
+        static_cast<Control*>(&Annuler), static_cast<Control*>(&Gestion_QSL)})
     libre->SetEnabled(true);
-  for (Control* bloque : {static_cast<Control*>(&QSLR_A), static_cast<Control*>(&QSLE_A),
-                          static_cast<Control*>(&Enregistrer), static_cast<Control*>(&Editer),
-                          static_cast<Control*>(&Effacer)})
+  for (Control* bloque :
+       {static_cast<Control*>(&QSLR_A), static_cast<Control*>(&QSLE_A), static_cast<Control*>(&Enregistrer),
+        static_cast<Control*>(&Editer), static_cast<Control*>(&Effacer)})
     bloque->SetEnabled(false);
   Verrouille_Champs();
   QSLR_A.Clear();
@@ -185,8 +185,8 @@ bool DDFM::Enregistre_Edition() {
 void DDFM::Prepare_Suivant() {
   NB_Debug.SetCaption("13");
   Charge_Bande_Mode();
-  for (TextField* champ : {&Indicatif_A, &Depart_A, &Locator_A, &Debut_A, &Fin_A, &Prenom_A, &QTH_A, &Distance_A,
-                           &Azimut_A, &Remarques_A})
+  for (TextField* champ :
+       {&Indicatif_A, &Depart_A, &Locator_A, &Debut_A, &Fin_A, &Prenom_A, &QTH_A, &Distance_A, &Azimut_A, &Remarques_A})
     champ->Clear();
   // In manual date mode the date serves for the next contact.
   if (Mnu_Auto_Oui.Checked()) Date_A.Clear();

@@ -71,8 +71,9 @@ DDFM::DDFM(Programme& programme)
   Label30.SetColour(kDpt_QSL_Recue);
   Label1.SetColour(kDpt_Confirme);
   for (TextField* affichage : {&Distance_A, &Azimut_A, &QSLE_A, &QSLR_A}) affichage->SetReadOnly(true);
-  for (Control* inactif : {static_cast<Control*>(&QSLE_A), static_cast<Control*>(&QSLR_A), static_cast<Control*>(&Editer),
-                           static_cast<Control*>(&Effacer), static_cast<Control*>(&Enregistrer)})
+  for (Control* inactif :
+       {static_cast<Control*>(&QSLE_A), static_cast<Control*>(&QSLR_A), static_cast<Control*>(&Editer),
+        static_cast<Control*>(&Effacer), static_cast<Control*>(&Enregistrer)})
     inactif->SetEnabled(false);
   Verrouille_Champs();
   Liste_QSO_Bis.SetVisible(false);

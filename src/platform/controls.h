@@ -348,8 +348,7 @@ class ControlArray {
   template <typename... Rest>
   ControlArray(Form& form, std::string_view name, int first, int count, const Rest&... rest) : first_(first) {
     for (int i = first; i < first + count; ++i)
-      items_.push_back(
-          std::make_unique<T>(form, std::string(name) + "(" + std::to_string(i) + ")", rest...));
+      items_.push_back(std::make_unique<T>(form, std::string(name) + "(" + std::to_string(i) + ")", rest...));
   }
 
   T& operator()(int index) const;

@@ -5,7 +5,8 @@
 
 namespace vorelio {
 
-/// Many cards at once: lists the contacts of a callsign that still lack a card, and enters it for those that are ticked.
+/// Many cards at once: lists the contacts of a callsign that still lack a card, and enters it for those that are
+/// ticked.
 class Multi_QSL : public Form {
  public:
   explicit Multi_QSL(Programme& programme);

@@ -15,13 +15,13 @@ namespace {
 
 /// What sets a card that was sent apart from one that was received.
 struct Carte {
-  Champ indicatif;                ///< The columns of the callsign that are read.
-  std::string_view etat_seule;    ///< State of a contact with this card alone.
-  int etat_autre;                 ///< State of a contact with the other card alone.
-  std::string_view bande_50;      ///< What is taken for the 50 MHz band.
-  int carre_jusqu_a;              ///< Square codes up to this one become `etat_seule`, higher ones "4".
-  Champ garde;                    ///< What of the QSL block stays before today's date.
-  int reste;                      ///< Characters at the line's end that stay behind it.
+  Champ indicatif;              ///< The columns of the callsign that are read.
+  std::string_view etat_seule;  ///< State of a contact with this card alone.
+  int etat_autre;               ///< State of a contact with the other card alone.
+  std::string_view bande_50;    ///< What is taken for the 50 MHz band.
+  int carre_jusqu_a;            ///< Square codes up to this one become `etat_seule`, higher ones "4".
+  Champ garde;                  ///< What of the QSL block stays before today's date.
+  int reste;                    ///< Characters at the line's end that stay behind it.
 };
 
 constexpr Carte kEnvoyee{champs::Indicatif_A, "2", 3, "50 Mhz", 2, {137, 0, 0}, 55};

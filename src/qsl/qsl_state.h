@@ -7,11 +7,12 @@
 #include "core/programme.h"
 
 /// The QSL state of a contact and what it does to the tallies. Both procedures act on `Ligne_Selection` and
-/// `Etat_QSL_Courant`: they change the log line, raise the department's code and set the square's. There is no way back.
+/// `Etat_QSL_Courant`: they change the log line, raise the department's code and set the square's. There is no way
+/// back.
 namespace vorelio::Sous_Programmes {
 
-/// Log lines to be put in place of others. A single card replaces its line at once; a batch gathers them, so that a long
-/// log is rewritten once.
+/// Log lines to be put in place of others. A single card replaces its line at once; a batch gathers them, so that a
+/// long log is rewritten once.
 class Lignes_Remplacees {
  public:
   /// All lines that equal `ancienne` become `nouvelle`; lengths as a `Ligne_Log`.

@@ -40,8 +40,8 @@ void QSL::Form_Load() {
 
 void QSL::Form_Unload() {
   Remet_Cases();
-  for (Control* controle : {static_cast<Control*>(&Check_Envoye), static_cast<Control*>(&Check_Recu),
-                            static_cast<Control*>(&Enregistre)})
+  for (Control* controle :
+       {static_cast<Control*>(&Check_Envoye), static_cast<Control*>(&Check_Recu), static_cast<Control*>(&Enregistre)})
     controle->SetEnabled(true);
 }
 

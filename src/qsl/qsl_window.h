@@ -16,11 +16,11 @@ class QSL : public Form {
   /// Shows the contact of a `Ligne_Liste` in the labels.
   void Montre_QSO(const std::string& ligne);
 
-  Label Label4{*this, "Label4"};    ///< Date of the contact, after "QSO du".
-  Label Label7{*this, "Label7"};    ///< Callsign, after "avec ".
-  Label Label6{*this, "Label6"};    ///< "Dpt " and the department.
+  Label Label4{*this, "Label4"};  ///< Date of the contact, after "QSO du".
+  Label Label7{*this, "Label7"};  ///< Callsign, after "avec ".
+  Label Label6{*this, "Label6"};  ///< "Dpt " and the department.
   CheckBox Check_Envoye;
-  Label Label9{*this, "Label9"};    ///< " : non", or " le : " and the date.
+  Label Label9{*this, "Label9"};  ///< " : non", or " le : " and the date.
   CheckBox Check_Recu;
   Label Label11{*this, "Label11"};  ///< The same for the card received.
   Button Enregistre{*this, "Enregistre", "Enregistrer"};

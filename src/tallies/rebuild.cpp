@@ -72,7 +72,8 @@ class Pointage_Tenu {
 
 /// Puts the template in the tally's place: all work so far is gone from here on. Gives the log's text.
 std::string Commence(Programme& programme, std::string_view suite) {
-  programme.Disque().Copy(programme.Chemin(std::string(kStation_Modele).append(suite)), programme.Chemin_Station(suite));
+  programme.Disque().Copy(programme.Chemin(std::string(kStation_Modele).append(suite)),
+                          programme.Chemin_Station(suite));
   return programme.Disque().ReadAll(programme.Chemin_Log(programme.contexte.Station_Indicatif));
 }
 

@@ -13,8 +13,8 @@ namespace vorelio::Sous_Programmes {
 /// "_Absent.txt". A missing file is run-time error 53.
 void Refait_Prefixes(Programme& programme);
 
-/// `<station>_Departement.txt`. Corsica is looked up as "2A" and "2B". A band outside the band table is run-time error 5
-/// once its line is found; `Temporaire.txt` is then left with the lines before it.
+/// `<station>_Departement.txt`. Corsica is looked up as "2A" and "2B". A band outside the band table is run-time error
+/// 5 once its line is found; `Temporaire.txt` is then left with the lines before it.
 void Refait_Departements(Programme& programme);
 
 /// `<station>_Locator.txt`. A band without squares, which comes so far only while the form is on 24 GHz, ends the tally

@@ -90,8 +90,8 @@ TEST_F(LogFile, ReadsWhateverEndsItsLines) {
   struct {
     std::string bytes;
     int count;
-  } const cases[] = {{"", 0}, {line + "\r\n", 1}, {line + "\n" + line, 2}, {line + "\r\n" + line.substr(0, 90), 2},
-                     {"\r\n\r\n", 2}};
+  } const cases[] = {
+      {"", 0}, {line + "\r\n", 1}, {line + "\n" + line, 2}, {line + "\r\n" + line.substr(0, 90), 2}, {"\r\n\r\n", 2}};
   for (const auto& c : cases) {
     Restart();
     auto& ddfm = Start(c.bytes);
@@ -135,8 +135,7 @@ TEST_F(LogFile, ASaveThatCannotBeWrittenIsSeenWithTheFormStillFilled) {
   auto& ddfm = Start("");
   ddfm.Mnu_Auto_Oui.UserClick();
   Event([&] { ddfm.Indicatif_A.SetText("1ZZZ"); });
-  for (TextField* field : {&ddfm.Indicatif_A})
-    Event([&] { field->UserKey(kEntree); });
+  for (TextField* field : {&ddfm.Indicatif_A}) Event([&] { field->UserKey(kEntree); });
   Event([&] { ddfm.Mode_A.UserKey(kEntree); });
   Event([&] { ddfm.Activ_A.UserKey(kEntree); });
   for (TextField* field : {&ddfm.RSTE_A, &ddfm.RSTR_A, &ddfm.Prenom_A, &ddfm.QTH_A, &ddfm.Remarques_A})
@@ -159,7 +158,8 @@ TEST(Calendar, TakesRealDatesAlone) {
   EXPECT_LT(Moment_QSO("31/12/99", "23:59"), Moment_QSO("01/01/00", "00:00"));
   EXPECT_LT(Moment_QSO("01/01/50", "12:00"), Moment_QSO("01/01/49", "12:00"));
   EXPECT_LT(Moment_QSO("29/02/04", "9:05"), Moment_QSO("01/03/04", ""));
-  for (const char* date : {"31/02/07", "29/02/03", "12/13/03", "00/01/03", "12-05-03", "        ", "", "aa/bb/cc", "1/1"})
+  for (const char* date :
+       {"31/02/07", "29/02/03", "12/13/03", "00/01/03", "12-05-03", "        ", "", "aa/bb/cc", "1/1"})
     EXPECT_THROW(Moment_QSO(date, "10:00"), Erreur_Execution) << date;
   for (const char* time : {"24:00", "10:60", "99:99", "1000", "ab:cd"})
     EXPECT_THROW(Moment_QSO("12/05/03", time), Erreur_Execution) << time;
@@ -188,12 +188,24 @@ TEST(LogLine, StandsInItsColumns) {
   const struct {
     Champ field;
     std::string text;
-  } cases[] = {{champs::Date_A, "12/05/03"},   {champs::Indicatif_A, "F9QZX/PORTAB"}, {champs::Debut_A, "10:00"},
-               {champs::Fin_A, "10:05"},       {champs::Depart_A, "2a"},              {champs::Locator_A, "JN33BB"},
-               {champs::Bande_A, "144 Mhz"},   {champs::Mode_A, "PACKET7"},           {champs::RSTE_A, "59"},
-               {champs::RSTR_A, "58"},         {champs::QTH_A, "DFCF 06001"},         {champs::Prenom_A, "Zo\xE9"},
-               {champs::Etat_QSL, "1"},        {champs::QSLE_A, ""},                  {champs::QSLR_A, ""},
-               {champs::Distance_A, "12345"},  {champs::Azimut_A, "360"},             {champs::Activ_A, "12"},
+  } cases[] = {{champs::Date_A, "12/05/03"},
+               {champs::Indicatif_A, "F9QZX/PORTAB"},
+               {champs::Debut_A, "10:00"},
+               {champs::Fin_A, "10:05"},
+               {champs::Depart_A, "2a"},
+               {champs::Locator_A, "JN33BB"},
+               {champs::Bande_A, "144 Mhz"},
+               {champs::Mode_A, "PACKET7"},
+               {champs::RSTE_A, "59"},
+               {champs::RSTR_A, "58"},
+               {champs::QTH_A, "DFCF 06001"},
+               {champs::Prenom_A, "Zo\xE9"},
+               {champs::Etat_QSL, "1"},
+               {champs::QSLE_A, ""},
+               {champs::QSLR_A, ""},
+               {champs::Distance_A, "12345"},
+               {champs::Azimut_A, "360"},
+               {champs::Activ_A, "12"},
                {champs::Remarques_A, "C. CHATEAU"}};
   for (const auto& c : cases) EXPECT_EQ(Lit_Log(line, c.field), c.text) << c.field.colonne;
   EXPECT_EQ(line.back(), '*');
