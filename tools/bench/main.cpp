@@ -14,6 +14,7 @@
 #include "start_time.h"
 #include "station_run.h"
 #include "table.h"
+#include "tally_measures.h"
 #include "tallies/department_tally.h"
 #include "tallies/prefix_tally.h"
 
@@ -112,6 +113,9 @@ void MeasureAll() {
   }
   std::fprintf(stderr, "Tallies and starts...\n");
   MeasureTallies(rows);
+  std::fprintf(stderr, "Rebuilds and cards...\n");
+  MeasureRebuilds(rows);
+  MeasureCards(rows);
   MeasureStarts(rows);
   Print(rows);
 }

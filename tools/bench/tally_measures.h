@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "table.h"
+
+namespace vorelio::bench {
+
+/// The three rebuilds on logs of 1,000 (beside a rewriting of the tally for every line), 10,000 and 99,999 contacts.
+void MeasureRebuilds(std::vector<Row>& rows);
+
+/// A batch of 1,000 cards on a full log.
+void MeasureCards(std::vector<Row>& rows);
+
+}  // namespace vorelio::bench
