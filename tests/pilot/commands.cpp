@@ -39,7 +39,7 @@ std::optional<std::string> FileBytes(const std::string& path) {
 
 // --- Args -----------------------------------------------------------------------------------------------------------
 
-Args::Args(const Run& run, const Command& command, std::size_t first) : run_(run), command_(command), next_(first) {}
+Args::Args(const Run& run, const Command& command) : run_(run), command_(command) {}
 
 std::string Args::Word(std::string_view what) {
   if (!More()) throw Failure{"the command lacks its " + std::string(what)};

@@ -15,7 +15,7 @@ void Perform(Run& run, const Command& command);
 /// The words behind a command's name, taken from left to right; a missing one or one too many is a `Failure`.
 class Args {
  public:
-  Args(const Run& run, const Command& command, std::size_t first = 1);
+  Args(const Run& run, const Command& command);
 
   bool More() const { return next_ < command_.words.size(); }
   /// The next word, in UTF-8.
@@ -35,7 +35,7 @@ class Args {
  private:
   const Run& run_;
   const Command& command_;
-  std::size_t next_;
+  std::size_t next_ = 1;
 };
 
 using CommandFunction = void (*)(Run& run, Args& args);

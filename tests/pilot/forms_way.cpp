@@ -61,7 +61,7 @@ class FormsWay : public Way {
         field->UserText(text, static_cast<int>(text.size()));
       });
     auto* combo = dynamic_cast<ComboBox*>(&control);
-    if (!combo || combo->Genre() != ComboBox::Kind::Editable) return false;
+    if (!combo) return false;
     return Do(control, [&] {
       combo->SetFocus();
       combo->UserText(text);

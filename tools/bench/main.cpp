@@ -10,6 +10,7 @@
 #include "core/log_file.h"
 #include "core/log_line.h"
 #include "floors.h"
+#include "import_measures.h"
 #include "log_maker.h"
 #include "start_time.h"
 #include "station_run.h"
@@ -116,6 +117,8 @@ void MeasureAll() {
   std::fprintf(stderr, "Rebuilds and cards...\n");
   MeasureRebuilds(rows);
   MeasureCards(rows);
+  std::fprintf(stderr, "Imports...\n");
+  MeasureImports(rows);
   MeasureStarts(rows);
   Print(rows);
 }

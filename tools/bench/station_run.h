@@ -24,6 +24,8 @@ class StationRun {
   DDFM& Main() { return programme_.Fenetre<DDFM>(); }
   /// Absolute path of a file of the station.
   std::string File(const std::string& ending) const { return folder_.File(kStation + ending); }
+  /// Where the next file dialog finds its answer.
+  tests::QueuedDialogs& Dialogs() { return dialogs_; }
   /// Copies a file of the template station over the station's.
   void Restore(const std::string& ending);
 

@@ -18,7 +18,9 @@ QString TypedCharacters(const QKeyEvent& event) {
   return Printable(event.text()) ? event.text() : QString();
 }
 
-bool TypesByMistake(const QKeyEvent& event) { return TypedCharacters(event).isEmpty() && Printable(event.text()); }
+bool TypesByMistake(const QKeyEvent& event) {
+  return !event.modifiers().testFlag(Qt::ControlModifier) && TypedCharacters(event).isEmpty() && Printable(event.text());
+}
 
 QString RefusedCharacter(const QString& character) {
   return QStringLiteral("Ce caractère ne peut pas être noté dans le journal : ") + character;

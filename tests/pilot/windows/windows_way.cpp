@@ -63,9 +63,14 @@ class WindowsWay : public Way {
   bool Paste(Control& control, const std::string& text) override {
     auto* field = dynamic_cast<TextField*>(&control);
     auto* combo = dynamic_cast<ComboBox*>(&control);
-    if (!field && (!combo || combo->Genre() != ComboBox::Kind::Editable)) return false;
+    if (!field && !combo) return false;
     QWidget& widget = Reach(control);
     GoTo(widget);
+    if (combo && combo->Genre() == ComboBox::Kind::Choice) {
+      // Such a box takes no text from the keys.
+      combo->Parent().programme().Recoit([&] { combo->UserText(text); });
+      return true;
+    }
     const bool line_ends = text.find_first_of("\r\n") != std::string::npos;
     if (field && (field->ReadOnly() || (line_ends && !field->MultiLine()))) {
       // No key puts such a text there.
