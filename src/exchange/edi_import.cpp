@@ -10,14 +10,13 @@ void Importe_EDI(Programme& programme) {
   // Here the marker is of 1950, so a file that is newer than the whole log finds no place in it.
   static constexpr Genre_Import kEDI{"EDI",          ".edi (edi)|*.edi", "Temporaire7.txt",
                                      "00:00  00:05", Siecle::Depuis_50,  false};
-  Import_Log import(programme, kEDI);
-  if (!import.Choisit_Fichier()) return;
-  const std::string texte = Texte_Recu(programme.Disque().ReadAll(import.Fichier()));
+  Import_Log importation(programme, kEDI);
+  if (!importation.Choisit_Fichier()) return;
+  const std::string texte = Texte_Recu(programme.Disque().ReadAll(importation.Fichier()));
   const Fichier_EDI fichier = Lit_Fichier_EDI(texte);
-  import.Insere(fichier.premier, fichier.enregistrements,
-                [&](std::string_view enregistrement) { return Ligne_EDI(enregistrement, fichier.bande);
-});
-import.Recharge();
-}  // namespace vorelio::Sous_Programmes
+  importation.Insere(fichier.premier, fichier.enregistrements,
+                     [&](std::string_view enregistrement) { return Ligne_EDI(enregistrement, fichier.bande); });
+  importation.Recharge();
+}
 
 }  // namespace vorelio::Sous_Programmes

@@ -20,19 +20,19 @@ Premier_Moment Premier_CTF(std::string_view texte) {
 void Importe_CTF(Programme& programme) {
   static constexpr Genre_Import kCTF{"CTF",          ".ctf (ctf)|*.ctf", "Temporaire7.txt",
                                      "12:00  12:05", Siecle::Depuis_51,  false};
-  Import_Log import(programme, kCTF);
-  if (!import.Choisit_Fichier()) return;
+  Import_Log importation(programme, kCTF);
+  if (!importation.Choisit_Fichier()) return;
   // The file is in the program's own character set, and nothing in it is looked at but its first date.
-  const std::string texte = programme.Disque().ReadAll(import.Fichier());
+  const std::string texte = programme.Disque().ReadAll(importation.Fichier());
   std::vector<std::string_view> lignes;
   for (Lecteur_Lignes lecteur(texte); !lecteur.Fini();) lignes.push_back(lecteur.Suivante());
-  import.Insere(Premier_CTF(texte), lignes,
-                [](std::string_view ligne) { return Ligne_Importee{std::string(ligne), {}, {}};
-});
-Refait_Prefixes(programme);
-Refait_Locators(programme);
-Refait_Departements(programme);
-import.Recharge();
-}  // namespace vorelio::Sous_Programmes
+  importation.Insere(Premier_CTF(texte), lignes, [](std::string_view ligne) {
+    return Ligne_Importee{std::string(ligne), {}, {}};
+  });
+  Refait_Prefixes(programme);
+  Refait_Locators(programme);
+  Refait_Departements(programme);
+  importation.Recharge();
+}
 
 }  // namespace vorelio::Sous_Programmes

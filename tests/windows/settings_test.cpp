@@ -94,6 +94,7 @@ class SettingsTest : public QObject {
   void AnInstalledProgramSeedsTheUsersFolder() {
     const ScratchFolder system, home;
     system.Write("bin/vorelio", "");
+    system.Write("share/vorelio/LISEZMOI.txt", "");
     CopyTemplates(system.File("share/vorelio"));
     home.Write("Vorelio/Nomenclature.txt", "F6ABC      57 JN39BC\r\n");
     QString problem;
