@@ -15,9 +15,9 @@
 #include "start_time.h"
 #include "station_run.h"
 #include "table.h"
-#include "tally_measures.h"
 #include "tallies/department_tally.h"
 #include "tallies/prefix_tally.h"
+#include "tally_measures.h"
 
 namespace vorelio::bench {
 namespace {

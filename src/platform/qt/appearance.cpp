@@ -1,9 +1,11 @@
 #include "platform/qt/appearance.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QToolTip>
 #include <algorithm>
 
+#include "platform/qt/rows_view.h"
 #include "platform/qt/style.h"
 
 namespace vorelio {
@@ -138,7 +140,17 @@ void Appearance::Dress(QWidget& window) const {
   const QList<QWidget*> widgets = window.findChildren<QWidget*>();
   for (QWidget* widget : widgets)
     if (widget->property("bandeau").toBool()) DressBand(*widget, Dark());
-  for (QWidget* widget : widgets) DressText(*widget);
+  for (QWidget* widget : widgets) {
+    DressText(*widget);
+    // Qt 6.4 keeps the least width of a combo box over a change of its font, but not over one of the style.
+    if (widget->inherits("QComboBox")) {
+      QEvent change(QEvent::StyleChange);
+      QApplication::sendEvent(widget, &change);
+      widget->updateGeometry();
+    }
+    // Lists have a font of their own, which follows in size.
+    if (auto* rows = dynamic_cast<RowsView*>(widget)) rows->Arrange();
+  }
 }
 
 }  // namespace vorelio

@@ -19,6 +19,9 @@ ComboView::ComboView(ComboBox& combo, QComboBox& box, Gate& gate) : ViewOf(combo
   box.setEditable(combo.Genre() == ComboBox::Kind::Editable);
   box.setInsertPolicy(QComboBox::NoInsert);
   box.setFocusPolicy(Qt::StrongFocus);
+  // Its rows come after its first being shown.
+  if (box.sizeAdjustPolicy() == QComboBox::AdjustToContentsOnFirstShow)
+    box.setSizeAdjustPolicy(QComboBox::AdjustToContents);
   if (box.isEditable()) box.setCompleter(nullptr);
   // The box has the focus and hands its events to its field; the field's own are those of the mouse.
   if (QLineEdit* edit = box.lineEdit()) {

@@ -8,6 +8,10 @@
 
 namespace vorelio {
 
+namespace {
+constexpr int kSecond = 1000;  // Milliseconds.
+}  // namespace
+
 // --- Menu entries ---------------------------------------------------------------------------------------------------
 
 MenuView::MenuView(MenuItem& item, QAction& action, Gate& gate)
@@ -55,10 +59,13 @@ void ShowFilledMenus(QWidget& window) {
 TimerView::TimerView(Timer& timer, QTimer& clock, Gate& gate)
     : View(timer, clock, gate), timer_(timer), clock_(clock) {
   clock.setTimerType(Qt::CoarseTimer);
-  connect(&clock, &QTimer::timeout, this, [this] {
-    if (Bound()) Deliver([this] { timer_.Fire(); });
-  });
+  const auto fire = [this] {
+    if (Bound() && gate_.TimersRun()) Deliver([this] { timer_.Fire(); });
+  };
+  connect(&clock, &QTimer::timeout, this, fire);
   Changed(Property::Enabled);
+  // What ticks by the second shows something: not only a second after the start.
+  if (timer.Interval() <= kSecond) QTimer::singleShot(0, this, fire);
 }
 
 void TimerView::Changed(Property property) {

@@ -83,6 +83,7 @@ class QtWindows : public QObject, public WindowService, private Gate {
   void Later(View& view) override;
   void Notice(QWidget& place, const QString& text) override;
   void FocusLost() override { focus_lost_ = true; }
+  bool TimersRun() const override { return !Waiter; }
 
   Window* Find(const Form& form) const;
   View* ViewOf(const Control& control) const;

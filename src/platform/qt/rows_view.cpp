@@ -149,12 +149,6 @@ void RowsView::resizeEvent(QResizeEvent* event) {
   titles_->setGeometry(inside.left(), inside.top(), inside.width(), titles_->sizeHint().height());
 }
 
-bool RowsView::event(QEvent* event) {
-  // The rows' font is their own, so a change of the application's isn't told by itself.
-  if (event->type() == QEvent::ApplicationFontChange) Arrange();
-  return QListView::event(event);
-}
-
 // --- The user -------------------------------------------------------------------------------------------------------
 
 int RowsView::RowAt(QPoint place) const {

@@ -28,6 +28,9 @@ class Gate {
 
   /// A widget lost the focus because the logic has disabled or hidden it.
   virtual void FocusLost() = 0;
+
+  /// Whether timers fire by themselves. Under a script they don't: there the time is the script's.
+  virtual bool TimersRun() const { return true; }
 };
 
 class View : public QObject, public ControlView {
