@@ -47,16 +47,15 @@ void MeasureRebuilds(std::vector<Row>& rows) {
   for (const int contacts : {1000, 10000, kFull_Log}) {
     StationRun run(contacts, DateMode::Automatic);
     const double time = Medians(kRounds, {{{}, [&] { RebuildAll(run); }}})[0];
-    rows.push_back({"Rebuild the three tallies", contacts, time, {}, {}, {}, {}});
-    if (contacts == 1000) {
-      const std::string log = MakeLog(contacts);
-      const double plain = Medians(1, {{{}, [&] { RewriteForEveryLine(run, log); }}})[0];
-      rows.push_back({"The same, rewriting for every line", contacts, plain, {}, {}, {}, {}});
-      continue;
-    }
     const double limit = contacts == kFull_Log ? 2000 : 200;
+    rows.push_back({"Rebuild the three tallies", contacts, time, {}, {}, {}, {}});
     rows.back().target = "under " + std::to_string(static_cast<int>(limit)) + " ms";
     rows.back().met = time < limit;
+    // With a full log that takes minutes.
+    if (contacts == kFull_Log) continue;
+    const std::string log = MakeLog(contacts);
+    const double plain = Medians(1, {{{}, [&] { RewriteForEveryLine(run, log); }}})[0];
+    rows.push_back({"The same, rewriting for every line", contacts, plain, {}, {}, {}, {}});
   }
 }
 

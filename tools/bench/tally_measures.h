@@ -6,7 +6,8 @@
 
 namespace vorelio::bench {
 
-/// The three rebuilds on logs of 1,000 (beside a rewriting of the tally for every line), 10,000 and 99,999 contacts.
+/// The three rebuilds on logs of 1,000, 10,000 and 99,999 contacts; on the first two beside a rewriting of the whole
+/// tally for every line, in memory.
 void MeasureRebuilds(std::vector<Row>& rows);
 
 /// A batch of 1,000 cards on a full log.
