@@ -38,9 +38,8 @@ int Run() {
   Application application(*folder, SettingsFolder());
   Programme programme(application.Services());
   // The start is an event like any other: what it opens is served by the loop below.
-  QTimer::singleShot(0, &application.windows, [&] {
-    application.windows.Deliver(programme, [&] { programme.Fenetre<DDFM>(); });
-  });
+  QTimer::singleShot(0, &application.windows,
+                     [&] { application.windows.Deliver(programme, [&] { programme.Fenetre<DDFM>(); }); });
   QApplication::exec();
   return programme.Erreur_Fatale() != 0 ? kFatal : 0;
 }

@@ -40,10 +40,21 @@ std::unique_ptr<Form> Make(Programme& programme) {
 }
 
 /// Every window of the program. A new one that isn't added here fails the test on the .ui files.
-constexpr Maker kForms[] = {
-    Make<DDFM>,         Make<Chargement>,          Make<Station>,              Make<Gestion_Erreur>, Make<Ajout_Prefixe>,
-    Make<Progression>,  Make<Statistique_Prefixe>, Make<Fichier_Nomenclature>, Make<Ajout_Activite>, Make<Delta_QSO>,
-    Make<Exporter_QSO>, Make<Export_Adif>,         Make<Restoration_Activite>, Make<QSL>,            Make<Multi_QSL>};
+constexpr Maker kForms[] = {Make<DDFM>,
+                            Make<Chargement>,
+                            Make<Station>,
+                            Make<Gestion_Erreur>,
+                            Make<Ajout_Prefixe>,
+                            Make<Progression>,
+                            Make<Statistique_Prefixe>,
+                            Make<Fichier_Nomenclature>,
+                            Make<Ajout_Activite>,
+                            Make<Delta_QSO>,
+                            Make<Exporter_QSO>,
+                            Make<Export_Adif>,
+                            Make<Restoration_Activite>,
+                            Make<QSL>,
+                            Make<Multi_QSL>};
 
 /// A form with its window, without its being loaded.
 struct Bound {

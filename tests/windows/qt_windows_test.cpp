@@ -100,8 +100,7 @@ class QtWindowsTest : public QObject {
     QWidget* window = bench.windows.WindowOf(main);
     int hides = 0;
     EventCount counter(window, QEvent::Hide, hides);
-    bench.windows.Deliver(bench.programme,
-                          [&] { Sous_Programmes::Charge_Log(bench.programme, "F9QZX"); });
+    bench.windows.Deliver(bench.programme, [&] { Sous_Programmes::Charge_Log(bench.programme, "F9QZX"); });
     QCoreApplication::processEvents();
     QCOMPARE(hides, 0);
     QVERIFY(window->isVisible());
@@ -236,7 +235,8 @@ class QtWindowsTest : public QObject {
   void AForeignCharacterIsToldInTheStatusLine() {
     WindowsBench bench;
     auto& main = bench.Open<DDFM>();
-    QTest::sendKeyEvent(QTest::Click, bench.windows.WidgetOf(main.Indicatif_A), Qt::Key_unknown, QStringLiteral("ш"), {});
+    QTest::sendKeyEvent(QTest::Click, bench.windows.WidgetOf(main.Indicatif_A), Qt::Key_unknown, QStringLiteral("ш"),
+                        {});
     const auto* window = qobject_cast<QMainWindow*>(bench.windows.WindowOf(main));
     QVERIFY(window->statusBar()->currentMessage().contains(u'ш'));
   }
@@ -330,7 +330,7 @@ class QtWindowsTest : public QObject {
     QApplication::setFont(before);
   }
 
-  void PlaceAndLookAreRemembered() {
+  void TheViewMenuAndWhatItRemembers() {
     const ScratchFolder folder;
     QSettings memory(QString::fromStdString(folder.File("Fenetres.ini")), QSettings::IniFormat);
     const QFont before = QApplication::font();
@@ -343,6 +343,10 @@ class QtWindowsTest : public QObject {
     QVERIFY(QTest::qWaitForWindowActive(bench.windows.WindowOf(main)));
     QTest::keyClick(bench.windows.WindowOf(main), Qt::Key_Plus, Qt::ControlModifier);
     QTest::keyClick(bench.windows.WindowOf(main), Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(bench.windows.WindowOf(main), Qt::Key_G, Qt::ControlModifier);
+    QCOMPARE(bench.programme.Focus(), &main.Dpt(1));
+    QTest::keyClick(bench.windows.WindowOf(main), Qt::Key_J, Qt::ControlModifier);
+    QCOMPARE(bench.programme.Focus(), &main.Liste_QSO);
     look.SetTheme(Appearance::Theme::Dark);
     QCOMPARE(look.Zoom(), 120);
     QCOMPARE(bench.windows.WidgetOf(main.Liste_QSO)->font().pointSizeF(), before.pointSizeF() * 1.2);

@@ -18,9 +18,11 @@ class SettingsTest : public QObject {
   void NamesAndValuesComeBackExactly() {
     const ScratchFolder folder;
     const QString file = QString::fromStdString(folder.File("Vorelio.ini"));
-    const std::vector<std::string> texts = {"Setup", "Setup ", " Setup", "setup", "a/b", "a\\b", "50%", "a;b", "a=b",
-                                            "a,b", "@Rect(1)", "@", "", "~", "~2f", "\"quoted\"", "General",
-                                            "été œ€"_t, "[x]", "#x", "  ", "a\r\nb", "%20", "\t", "F9QZX        JN33BB"};
+    const std::vector<std::string> texts = {"Setup",      "Setup ",  " Setup",   "setup", "a/b",
+                                            "a\\b",       "50%",     "a;b",      "a=b",   "a,b",
+                                            "@Rect(1)",   "@",       "",         "~",     "~2f",
+                                            "\"quoted\"", "General", "été œ€"_t, "[x]",   "#x",
+                                            "  ",         "a\r\nb",  "%20",      "\t",    "F9QZX        JN33BB"};
     {
       QtSettings store(file);
       for (const std::string& text : texts) {
@@ -99,7 +101,8 @@ class SettingsTest : public QObject {
     home.Write("Vorelio/Nomenclature.txt", "F6ABC      57 JN39BC\r\n");
     QString problem;
     const auto find = [&] {
-      return FindProgramFolder(QString::fromStdString(system.File("bin")), QString::fromStdString(home.Path()), problem);
+      return FindProgramFolder(QString::fromStdString(system.File("bin")), QString::fromStdString(home.Path()),
+                               problem);
     };
     const auto folder = find();
     QVERIFY2(folder, qPrintable(problem));
@@ -115,7 +118,8 @@ class SettingsTest : public QObject {
     const ScratchFolder system, home;
     home.Write("file", "");
     QString problem;
-    QVERIFY(!FindProgramFolder(QString::fromStdString(system.Path()), QString::fromStdString(home.File("file")), problem));
+    QVERIFY(
+        !FindProgramFolder(QString::fromStdString(system.Path()), QString::fromStdString(home.File("file")), problem));
     QVERIFY(problem.contains(QStringLiteral("Impossible de créer le dossier")));
   }
 

@@ -109,8 +109,7 @@ class TextFieldTest : public QObject {
     FieldBench bench;
     QTest::sendKeyEvent(QTest::Click, bench.field, Qt::Key_unknown, QStringLiteral("я"), {});
     QVERIFY(bench.field->text().isEmpty());
-    QCOMPARE(bench.gate.notices,
-             QStringList{QStringLiteral("Ce caractère ne peut pas être noté dans le journal : я")});
+    QCOMPARE(bench.gate.notices, QStringList{QStringLiteral("Ce caractère ne peut pas être noté dans le journal : я")});
   }
 
   void ShortcutsTypeNothing() {

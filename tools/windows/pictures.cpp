@@ -16,6 +16,8 @@
 #include "core/station_form.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "exchange/award_export_window.h"
+#include "exchange/export_adif_window.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/restore_activities_window.h"
@@ -77,7 +79,8 @@ std::string Turn(const std::array<const char*, N>& words, int n) {
 std::string Contact(int n) {
   static constexpr std::array kCalls = {"F9AAA", "F9BCD/P", "DL9ZZZ", "F9EFG", "I9QQQ", "F9HIJ", "EA9XXX", "TK9KLM"};
   static constexpr std::array kDepartments = {"57", "06", "", "33", "", "75", "", "2a"};
-  static constexpr std::array kLocators = {"JN39BC", "JN33RQ", "JO31AA", "IN94PT", "JN45OL", "JN18EU", "IN80BK", "JN41JX"};
+  static constexpr std::array kLocators = {"JN39BC", "JN33RQ", "JO31AA", "IN94PT",
+                                           "JN45OL", "JN18EU", "IN80BK", "JN41JX"};
   static constexpr std::array kNames = {"Hélène", "René", "Jürgen", "Marc", "Paolo", "Anaïs", "Íñigo", "Ange"};
   static constexpr std::array kPlaces = {"METZ", "NICE", "ESSEN", "DFCF 33012", "MILANO", "PARIS", "MADRID", "AJACCIO"};
   static constexpr std::array kReports = {"59", "57", "599", "55"};
@@ -167,6 +170,8 @@ class Session {
     TakeWindow<Ajout_Activite>();
     TakeWindow<Delta_QSO>();
     TakeWindow<Restoration_Activite>();
+    TakeWindow<Export_Adif>();
+    TakeWindow<Exporter_QSO>();
     TakeWindow<Chargement>();
     TakeWindow<Progression>();
     Do([&] {

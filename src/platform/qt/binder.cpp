@@ -169,8 +169,7 @@ void Binding::LookForStrangers(const Form& form, QWidget& window) {
       const Element element = ElementOf(ToQt(control->Name()));
       return element.array == name || QStringLiteral("%1_%2").arg(element.array).arg(element.index) == name;
     };
-    return form.Find(FromQt(name)) ||
-           std::any_of(form.Controls().begin(), form.Controls().end(), of_array);
+    return form.Find(FromQt(name)) || std::any_of(form.Controls().begin(), form.Controls().end(), of_array);
   };
   for (const QObject* object : window.findChildren<QObject*>()) {
     const QString name = object->objectName();

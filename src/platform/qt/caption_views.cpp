@@ -51,9 +51,7 @@ void CaptionLabel::paintEvent(QPaintEvent* event) {
 
 // --- Frame ----------------------------------------------------------------------------------------------------------
 
-FrameView::FrameView(Frame& frame, QWidget& shown, Gate& gate) : ViewOf(frame, shown, gate) {
-  Show(Property::Caption);
-}
+FrameView::FrameView(Frame& frame, QWidget& shown, Gate& gate) : ViewOf(frame, shown, gate) { Show(Property::Caption); }
 
 void FrameView::Show(Property property) {
   if (property != Property::Caption) return;

@@ -42,8 +42,7 @@ QString MissingDisplay() {
   const QString display = qEnvironmentVariable("DISPLAY");
   if (display.isEmpty())
     return QStringLiteral("Vorelio a besoin d'un écran graphique : lancez-le depuis une session de bureau.");
-  if (!DisplayAnswers())
-    return QStringLiteral("Vorelio n'arrive pas à ouvrir l'écran graphique « %1 ».").arg(display);
+  if (!DisplayAnswers()) return QStringLiteral("Vorelio n'arrive pas à ouvrir l'écran graphique « %1 ».").arg(display);
   return {};
 }
 

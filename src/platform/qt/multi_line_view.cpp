@@ -97,7 +97,8 @@ bool MultiLineView::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   } else if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease) {
-    QMetaObject::invokeMethod(this, [this] { TellCaret(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { TellCaret(); }, Qt::QueuedConnection);
   }
   return ViewOf::eventFilter(watched, event);
 }

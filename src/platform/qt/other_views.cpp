@@ -47,17 +47,15 @@ void ShowFilledMenus(QWidget& window) {
   const QList<QMenu*> menus = window.findChildren<QMenu*>();
   for (auto menu = menus.rbegin(); menu != menus.rend(); ++menu) {
     const QList<QAction*> entries = (*menu)->actions();
-    const bool filled = std::any_of(entries.begin(), entries.end(), [](const QAction* entry) {
-      return entry->isVisible() && !entry->isSeparator();
-    });
+    const bool filled = std::any_of(entries.begin(), entries.end(),
+                                    [](const QAction* entry) { return entry->isVisible() && !entry->isSeparator(); });
     (*menu)->menuAction()->setVisible(filled);
   }
 }
 
 // --- Timers ---------------------------------------------------------------------------------------------------------
 
-TimerView::TimerView(Timer& timer, QTimer& clock, Gate& gate)
-    : View(timer, clock, gate), timer_(timer), clock_(clock) {
+TimerView::TimerView(Timer& timer, QTimer& clock, Gate& gate) : View(timer, clock, gate), timer_(timer), clock_(clock) {
   clock.setTimerType(Qt::CoarseTimer);
   const auto fire = [this] {
     if (Bound() && gate_.TimersRun()) Deliver([this] { timer_.Fire(); });

@@ -45,9 +45,9 @@ bool Seed(const QDir& from, const QDir& to, QString& problem) {
 }  // namespace
 
 const QStringList& TemplateFiles() {
-  static const QStringList names = {
-      QStringLiteral("FXXXX.log"), QStringLiteral("FXXXX_Departement.txt"), QStringLiteral("FXXXX_Locator.txt"),
-      QStringLiteral("FXXXX_Prefixe.txt"), QStringLiteral("Nomenclature.txt")};
+  static const QStringList names = {QStringLiteral("FXXXX.log"), QStringLiteral("FXXXX_Departement.txt"),
+                                    QStringLiteral("FXXXX_Locator.txt"), QStringLiteral("FXXXX_Prefixe.txt"),
+                                    QStringLiteral("Nomenclature.txt")};
   return names;
 }
 

@@ -47,8 +47,7 @@ QMessageBox::Icon Sign(Icon icon) {
 }  // namespace
 
 int QtMessages::Run(const std::string& text, Icon icon, QMessageBox::StandardButtons buttons,
-                    QMessageBox::StandardButton first, QMessageBox::StandardButton escape,
-                    const QString& only_button) {
+                    QMessageBox::StandardButton first, QMessageBox::StandardButton escape, const QString& only_button) {
   windows_.ShowPending();
   QWidget* asking = QApplication::activeWindow();
   QMessageBox box(asking);

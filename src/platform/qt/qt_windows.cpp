@@ -211,7 +211,6 @@ void QtWindows::Deliver(Programme& programme, const std::function<void()>& actio
   ++depth_;
   ++delivered_;
   try {
-    const QScopedValueRollback<bool> running(pumping_, pumping_);
     programme.Recoit(action);
   } catch (const std::exception& error) {
     // A fault of the program itself: it must not cross the event loop, and it must be seen.

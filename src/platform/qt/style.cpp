@@ -78,10 +78,11 @@ void DrawIndicator(QPainter& painter, const QStyleOption& option, bool round) {
   const int side = std::min(option.rect.width(), option.rect.height());
   QRectF place(0, 0, side - 1, side - 1);
   place.moveCenter(QRectF(option.rect).center());
-  const QColor ink = Enabled(option) ? palette.color(QPalette::Active, QPalette::Highlight) : palette.color(QPalette::Mid);
+  const QColor ink =
+      Enabled(option) ? palette.color(QPalette::Active, QPalette::Highlight) : palette.color(QPalette::Mid);
   const bool edged = option.state & (QStyle::State_HasFocus | QStyle::State_MouseOver);
   painter.setBrush(on ? ink : palette.color(QPalette::Base));
-  painter.setPen(QPen(on || edged ? ink : palette.color(QPalette::Dark), 1));
+  painter.setPen(QPen(on || edged ? ink : palette.color(QPalette::PlaceholderText), 1));
   painter.drawRoundedRect(place, round ? side / 2.0 : 3, round ? side / 2.0 : 3);
   if (on && round) {
     painter.setPen(Qt::NoPen);

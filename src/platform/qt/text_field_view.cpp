@@ -138,7 +138,8 @@ bool TextFieldView::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::MouseButtonRelease:
     case QEvent::KeyRelease:
-      QMetaObject::invokeMethod(this, [this] { TellCaret(); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this, [this] { TellCaret(); }, Qt::QueuedConnection);
       break;
     default: break;
   }

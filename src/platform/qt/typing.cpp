@@ -19,7 +19,8 @@ QString TypedCharacters(const QKeyEvent& event) {
 }
 
 bool TypesByMistake(const QKeyEvent& event) {
-  return !event.modifiers().testFlag(Qt::ControlModifier) && TypedCharacters(event).isEmpty() && Printable(event.text());
+  return !event.modifiers().testFlag(Qt::ControlModifier) && TypedCharacters(event).isEmpty() &&
+         Printable(event.text());
 }
 
 QString RefusedCharacter(const QString& character) {

@@ -17,7 +17,8 @@ bool pushing = false;
 /// A field's title comes and goes with it.
 void ShowTitle(const QWidget& widget, bool visible) {
   for (QLabel* label : widget.window()->findChildren<QLabel*>())
-    if (label->buddy() == &widget && label->objectName().startsWith(QLatin1String("titre_"))) label->setVisible(visible);
+    if (label->buddy() == &widget && label->objectName().startsWith(QLatin1String("titre_")))
+      label->setVisible(visible);
 }
 
 }  // namespace
@@ -107,7 +108,8 @@ QColor ToColour(Couleur colour) {
 void PaintField(QWidget& widget, Couleur colour) {
   QPalette palette;
   if (!SystemColour(colour)) {
-    for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Window}) palette.setColor(role, ToColour(colour));
+    for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Window})
+      palette.setColor(role, ToColour(colour));
     // Every colour of the model is a light one.
     for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText, QPalette::PlaceholderText})
       palette.setColor(role, Qt::black);

@@ -90,6 +90,17 @@ void WindowExtras::AddViewMenu(QMainWindow& window) {
                       [&window] { window.setWindowState(window.windowState() ^ Qt::WindowFullScreen); });
   full->setObjectName(QStringLiteral("titre_plein_ecran"));
 
+  menu->addSeparator();
+
+  // The grid is no part of the tab chain, and the log comes last in it.
+  const auto go_to = [&window](const char* name) {
+    if (auto* widget = window.findChild<QWidget*>(QString::fromLatin1(name))) widget->setFocus(Qt::TabFocusReason);
+  };
+  add(*menu, QStringLiteral("Aller à la &grille"), {QKeySequence(QStringLiteral("Ctrl+G"))},
+      [go_to] { go_to("Dpt(1)"); });
+  add(*menu, QStringLiteral("Aller au &journal"), {QKeySequence(QStringLiteral("Ctrl+J"))},
+      [go_to] { go_to("Liste_QSO"); });
+
   // Before the last menu, the help.
   const QList<QAction*> menus = window.menuBar()->actions();
   window.menuBar()->insertMenu(menus.isEmpty() ? nullptr : menus.constLast(), menu);
