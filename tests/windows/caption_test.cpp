@@ -20,7 +20,6 @@ class CaptionForm : public TestForm {
     Deux.Click = [this] { clicks += "2"; };
     Bouton.Click = [this] { clicks += "B"; };
     Coche.Click = [this] { clicks += "C"; };
-    Cadre.SetEnabled(true);
   }
 
   Button Bouton{*this, "Bouton", "QSO Suivant"};

@@ -145,9 +145,9 @@ void FillTallies(Programme& programme) {
 
 // --- The pictures ---------------------------------------------------------------------------------------------------
 
-class Session {
+class Tour {
  public:
-  Session(Application& application, Programme& programme, const Album& album)
+  Tour(Application& application, Programme& programme, const Album& album)
       : windows_(application.windows), programme_(programme), album_(album) {}
 
   void TakeAll(QSize size) {
@@ -269,7 +269,7 @@ int main(int argc, char** argv) {
     const Platform with_pictures{services.settings, messages,      services.dialogs,   services.clock,
                                  services.windows,  services.disk, services.directory, services.separator};
     Programme programme(with_pictures);
-    Session(application, programme, album).TakeAll(size);
+    Tour(application, programme, album).TakeAll(size);
   }
   return 0;
 }

@@ -1,6 +1,7 @@
 #include "platform/qt/binder.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QFile>
 #include <QGridLayout>
 #include <QLabel>
@@ -131,7 +132,8 @@ QObject* Binding::Fill(Control& control, QWidget& window) {
   QWidget* cell = nullptr;
   if (dynamic_cast<TextField*>(&control)) cell = new GridCell(*holder, columns);
   if (dynamic_cast<Label*>(&control)) cell = new CaptionLabel(holder);
-  if (dynamic_cast<CheckBox*>(&control)) cell = new QPushButton(holder);
+  if (dynamic_cast<CheckBox*>(&control)) cell = new QCheckBox(holder);
+  if (dynamic_cast<OptionButton*>(&control)) cell = new QRadioButton(holder);
   if (!cell) return nullptr;
   cell->setObjectName(ToQt(control.Name()));
   cell->setAccessibleName(holder->accessibleName() + u' ' + QString::number(element.index));

@@ -64,7 +64,7 @@ void QtWindows::Created(Form& form) {
   QString problem;
   QWidget* widget = LoadWindow(ToQt(form.Name()), problem);
   if (!widget) {
-    // The program would wait for a window that nobody sees.
+    // An empty window can be seen and closed; without one the program would wait for ever.
     qCritical("%s: %s", form.Name().c_str(), qUtf8Printable(problem));
     widget = new QWidget;
   }

@@ -11,9 +11,6 @@ namespace vorelio {
 
 namespace {
 
-/// While the logic's changes go to the widgets: the moves of the focus that follow from them aren't the user's.
-bool pushing = false;
-
 /// A field's title comes and goes with it.
 void ShowTitle(const QWidget& widget, bool visible) {
   for (QLabel* label : widget.window()->findChildren<QLabel*>())
@@ -67,7 +64,7 @@ void WidgetView::Changed(Property property) {
       const QWidget* focused = widget_.window()->focusWidget();
       const bool had_focus = focused && (focused == &widget_ || widget_.isAncestorOf(focused));
       if (had_focus && !(control_.Enabled() && control_.Visible())) gate_.FocusLost();
-      const QScopedValueRollback<bool> quiet(pushing, true);
+      const QScopedValueRollback<bool> quiet(gate_.pushing, true);
       if (property == Property::Enabled) {
         widget_.setEnabled(control_.Enabled());
       } else {
@@ -82,7 +79,7 @@ void WidgetView::Changed(Property property) {
 }
 
 bool WidgetView::eventFilter(QObject* watched, QEvent* event) {
-  if (Bound() && !pushing && event->type() == QEvent::FocusIn) {
+  if (Bound() && !gate_.pushing && event->type() == QEvent::FocusIn) {
     // Qt moves the focus on when the logic disables a control, and gives it back to a window that comes to the front:
     // only what the user does is told.
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();

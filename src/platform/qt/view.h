@@ -29,6 +29,9 @@ class Gate {
   /// A widget lost the focus because the logic has disabled or hidden it.
   virtual void FocusLost() = 0;
 
+  /// While the logic's changes go to the widgets: the moves of the focus that follow from them aren't the user's.
+  bool pushing = false;
+
   /// Whether timers fire by themselves. Under a script they don't: there the time is the script's.
   virtual bool TimersRun() const { return true; }
 };
