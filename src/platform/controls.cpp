@@ -272,6 +272,12 @@ void CheckBox::UserClick() {
   SetChecked(!checked_);
 }
 
+void Gauge::SetProgress(int done, int total) {
+  done_ = done;
+  total_ = total;
+  Notify(Property::Progress);
+}
+
 OptionButton::OptionButton(Form& form, std::string_view name, std::string_view caption, std::string_view group,
                            bool set)
     : Captioned(form, name, caption), group_(group), set_(set) {}

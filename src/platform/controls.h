@@ -32,7 +32,19 @@ inline constexpr Couleur kFait = 0xC0FFFF;            ///< Light yellow: a field
 inline constexpr int kEntree = 13;
 
 /// What of a control has changed, for its view.
-enum class Property { Text, Caption, Enabled, Visible, Colour, ListIndex, Items, Caret, Checked, ScrollToEnd };
+enum class Property {
+  Text,
+  Caption,
+  Enabled,
+  Visible,
+  Colour,
+  ListIndex,
+  Items,
+  Caret,
+  Checked,
+  ScrollToEnd,
+  Progress
+};
 
 class Control;
 
@@ -291,6 +303,21 @@ class CheckBox : public Captioned {
 
  private:
   bool checked_ = false;
+};
+
+/// How far something long has come.
+class Gauge : public Control {
+ public:
+  using Control::Control;
+
+  int Done() const { return done_; }
+  int Total() const { return total_; }
+  /// `done` of `total` steps; a total of 0 shows as finished.
+  void SetProgress(int done, int total);
+
+ private:
+  int done_ = 0;
+  int total_ = 0;
 };
 
 /// One of the option buttons of a group: setting one clears the others.

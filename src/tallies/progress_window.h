@@ -15,6 +15,7 @@ class Progression : public Form {
 
   Frame Frame1{*this, "Frame1", "Progression de la mise a jour"};
   Label Label3{*this, "Label3", "Ligne N°1"_t};
+  Gauge Avance{*this, "Avance"};  ///< Lines of the log that are done.
 };
 
 }  // namespace vorelio

@@ -1,5 +1,6 @@
 #include "tallies/rebuild.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -81,8 +82,13 @@ std::string Commence(Programme& programme, std::string_view suite) {
 void Parcourt(Programme& programme, std::string_view log, std::string_view suite, Table_Pointage::Cle_De cle_de,
               const std::function<void(Pointage_Tenu&, std::string_view ligne)>& etape) {
   const std::string lecture = "Lecture du log ligne n° "_t;
+  const int total = static_cast<int>(std::count(log.begin(), log.end(), '\n'));
   int n = 1;
-  const auto annonce = [&] { programme.Fenetre<Progression>().Label3.SetCaption(lecture + Texte_Nombre_Blanc(n)); };
+  const auto annonce = [&] {
+    auto& progression = programme.Fenetre<Progression>();
+    progression.Label3.SetCaption(lecture + Texte_Nombre_Blanc(n));
+    progression.Avance.SetProgress(n - 1, total);
+  };
   programme.Fenetre<Progression>().Show();
   annonce();
 

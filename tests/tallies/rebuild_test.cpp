@@ -6,6 +6,7 @@
 #include "support/random_log.h"
 #include "support/station_fixture.h"
 #include "tallies/department_tally.h"
+#include "tallies/progress_window.h"
 
 namespace vorelio::tests {
 namespace {
@@ -81,7 +82,10 @@ TEST_F(Rebuild, WhatIsDoneMeanwhileStands) {
   int line = 0;
   std::string seen;
   windows.OnServe = [&] {
-    if (++line % 7 != 0) return;
+    ++line;
+    EXPECT_EQ(programme->Ouverte<Progression>()->Avance.Done(), line);
+    EXPECT_EQ(programme->Ouverte<Progression>()->Avance.Total(), 40);
+    if (line % 7 != 0) return;
     programme->Recoit([&] { Sous_Programmes::Maj_Departement(*programme, "75", "1", "14 Mhz"); });
     seen = Read("F9QZX_Departement.txt");
     EXPECT_FALSE(folder.Exists("Temporaire.txt"));

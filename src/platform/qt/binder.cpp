@@ -55,6 +55,7 @@ View* MakeView(Control& control, QObject* shown, Gate& gate) {
     return ViewFor<ClickViewOf<CheckBox>, QAbstractButton>(box, shown, gate);
   if (auto* option = dynamic_cast<OptionButton*>(&control))
     return ViewFor<ClickViewOf<OptionButton>, QRadioButton>(option, shown, gate);
+  if (auto* gauge = dynamic_cast<Gauge*>(&control)) return ViewFor<GaugeView, QProgressBar>(gauge, shown, gate);
   if (auto* item = dynamic_cast<MenuItem*>(&control)) return ViewFor<MenuView, QAction>(item, shown, gate);
   return nullptr;
 }

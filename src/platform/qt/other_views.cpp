@@ -53,6 +53,14 @@ void ShowFilledMenus(QWidget& window) {
   }
 }
 
+// --- Gauges ---------------------------------------------------------------------------------------------------------
+
+void GaugeView::ShowDeferred() {
+  const int total = std::max(control_.Total(), 1);
+  shown_.setRange(0, total);
+  shown_.setValue(control_.Total() > 0 ? std::min(control_.Done(), total) : total);
+}
+
 // --- Timers ---------------------------------------------------------------------------------------------------------
 
 TimerView::TimerView(Timer& timer, QTimer& clock, Gate& gate) : View(timer, clock, gate), timer_(timer), clock_(clock) {

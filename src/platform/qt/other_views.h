@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QProgressBar>
 #include <QTimer>
 
 #include "platform/qt/view.h"
@@ -18,6 +19,19 @@ class MenuView : public View {
   MenuItem& item_;
   QAction& action_;
   QString designed_;
+};
+
+/// A bar that shows how far a running procedure has come; it follows at the pace of the screen.
+class GaugeView : public ViewOf<Gauge, QProgressBar> {
+ public:
+  GaugeView(Gauge& gauge, QProgressBar& bar, Gate& gate) : ViewOf(gauge, bar, gate) { ShowDeferred(); }
+
+ protected:
+  void Show(Property property) override {
+    if (property == Property::Progress) Defer();
+  }
+  void ShowDeferred() override;
+  void ShowColour() override {}
 };
 
 /// Runs a timer of the logic while it is enabled and its form is loaded.
