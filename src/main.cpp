@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QMessageBox>
 #include <QTimer>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 
@@ -57,6 +58,8 @@ int main(int argc, char** argv) {
       return 0;
     }
   }
+  // A limit on file sizes then shows as a full disk, where it would kill the program.
+  std::signal(SIGXFSZ, SIG_IGN);
   const QString missing = MissingDisplay();
   if (!missing.isEmpty()) {
     std::fprintf(stderr, "%s\n", qUtf8Printable(missing));
