@@ -15,8 +15,10 @@ std::string Libelle(Erreur erreur) {
     case Erreur::Type_Incompatible: return "Type incompatible"_t;
     case Erreur::Fichier_Introuvable: return "Fichier introuvable"_t;
     case Erreur::Fichier_Deja_Ouvert: return "Fichier déjà ouvert"_t;
+    case Erreur::Peripherique: return "Erreur de périphérique"_t;
     case Erreur::Disque_Plein: return "Disque plein"_t;
     case Erreur::Fin_De_Fichier: return "Lecture au-delà de la fin du fichier"_t;
+    case Erreur::Peripherique_Absent: return "Périphérique absent"_t;
     case Erreur::Permission_Refusee: return "Permission refusée"_t;
     case Erreur::Disque_Non_Pret: return "Disque non prêt"_t;
     case Erreur::Acces_Chemin: return "Erreur d'accès au chemin ou au fichier"_t;

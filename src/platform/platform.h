@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -78,6 +79,86 @@ class WindowService {
   virtual void WaitForEvent() = 0;
 };
 
+struct PrinterFont {
+  std::string name;
+  double size = 10;  ///< In points.
+  bool bold = false;
+
+  bool operator==(const PrinterFont&) const = default;
+};
+
+/// The printer as a text cursor that runs down the pages, which break by themselves.
+class PrinterService {
+ public:
+  virtual ~PrinterService() = default;
+  /// The printer dialog; what is chosen there holds for the jobs that follow. False if it was cancelled.
+  virtual bool Choose() = 0;
+  /// The font in force.
+  virtual PrinterFont Font() = 0;
+  virtual void SetFont(const PrinterFont& font) = 0;
+  /// Prints a line, which may be empty, in the font in force and goes on to the next one. The first line begins a job.
+  virtual void PrintLine(const std::string& text) = 0;
+  /// Hands the job to the printer. Nothing happens where none has begun.
+  virtual void EndJob() = 0;
+  virtual void DiscardJob() = 0;
+};
+
+/// The serial line to the transceiver: one port, written to and never read.
+class SerialService {
+ public:
+  virtual ~SerialService() = default;
+  /// Opens the system's first or second port (`number` 1 or 2); `device` names it, or is empty where the system is to
+  /// find it. `settings` reads "4800,n,8,1". Error 5: the settings make no sense; 68: there is no such port.
+  virtual void Open(int number, const std::string& device, const std::string& settings) = 0;
+  virtual bool IsOpen() = 0;
+  virtual void Close() = 0;
+  /// Changes speed and format of the open port; error 5 as above.
+  virtual void Configure(const std::string& settings) = 0;
+  /// Forgets what has come in.
+  virtual void ClearInput() = 0;
+  /// Hands bytes to the port and doesn't wait; error 57 if it fails, as when the port has been unplugged.
+  virtual void Write(const std::string& bytes) = 0;
+  /// How many bytes are still to go out; error 57 as above.
+  virtual int Pending() = 0;
+};
+
+/// Says that nobody waits for a result any more.
+using Abandoned = std::function<bool()>;
+
+/// Pages of the web.
+class PageService {
+ public:
+  virtual ~PageService() = default;
+  /// The page as text, whole. Waits for it, serving events, for `timeout_s` seconds at most. Error 71 if the site
+  /// doesn't answer or has no such page; also when `abandoned` says so, which is asked behind each event.
+  virtual std::string Fetch(const std::string& url, int timeout_s, const Abandoned& abandoned) = 0;
+};
+
+class SoundService {
+ public:
+  virtual ~SoundService() = default;
+  /// Plays a WAV file to its end, serving events. No sound device, no file or one that is no WAV: no sound, no error.
+  virtual void Play(const std::string& path, const Abandoned& abandoned) = 0;
+};
+
+/// The clipboard of the desktop.
+class ClipboardService {
+ public:
+  virtual ~ClipboardService() = default;
+  /// Its text, line ends as CR LF; empty if it holds none.
+  virtual std::string Text() = 0;
+  virtual void SetText(const std::string& text) = 0;
+  virtual void Clear() = 0;
+};
+
+/// Documents that other programs show, as the manual.
+class DocumentService {
+ public:
+  virtual ~DocumentService() = default;
+  /// False if nothing could show it.
+  virtual bool Open(const std::string& path) = 0;
+};
+
 /// Everything that a run of the program stands on. `directory` is the program's own, where every data file lies,
 /// without a separator at its end.
 struct Platform {
@@ -87,6 +168,12 @@ struct Platform {
   ClockService& clock;
   WindowService& windows;
   Disk& disk;
+  PrinterService& printer;
+  SerialService& serial;
+  PageService& pages;
+  SoundService& sounds;
+  ClipboardService& clipboard;
+  DocumentService& documents;
   std::string directory;
   char separator = '/';
 };

@@ -18,6 +18,7 @@
 #include "exchange/log_splice.h"
 #include "exchange/native_import.h"
 #include "fuzz/memory_disk.h"
+#include "support/devices.h"
 #include "support/doubles.h"
 #include "support/ready_station.h"
 #include "support/scratch_folder.h"
@@ -124,7 +125,7 @@ class ImportTarget {
     disk_.files = templates_;
     disk_.files[Path("F9QZX.log")] = log_;
     programme_ =
-        std::make_unique<Programme>(Platform{settings_, messages_, dialogs_, clock_, windows_, disk_, kFolder});
+        std::make_unique<Programme>(devices_.Join(settings_, messages_, dialogs_, clock_, windows_, disk_, kFolder));
     programme_->Recoit([&] { programme_->Fenetre<DDFM>(); });
   }
 
@@ -171,6 +172,7 @@ class ImportTarget {
   QueuedDialogs dialogs_;
   FixedClock clock_;
   SilentWindows windows_;
+  Devices devices_;
   MemoryDisk disk_;
   std::unique_ptr<Programme> programme_;
 };

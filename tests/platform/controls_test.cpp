@@ -8,6 +8,7 @@
 #include "core/programme.h"
 #include "core/text.h"
 #include "platform/posix_disk.h"
+#include "support/devices.h"
 #include "support/doubles.h"
 
 namespace vorelio {
@@ -106,8 +107,9 @@ class Controls : public ::testing::Test {
   tests::QueuedDialogs dialogs;
   tests::FixedClock clock;
   tests::SilentWindows windows;
+  tests::Devices devices;
   PosixDisk disk;
-  Programme programme{{settings, messages, dialogs, clock, windows, disk, "/nowhere", '/'}};
+  Programme programme{devices.Join(settings, messages, dialogs, clock, windows, disk, "/nowhere")};
   MainPage& page = programme.Fenetre<MainPage>();
 };
 

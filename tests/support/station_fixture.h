@@ -10,6 +10,7 @@
 #include "core/programme.h"
 #include "core/station_files.h"
 #include "platform/posix_disk.h"
+#include "support/devices.h"
 #include "support/doubles.h"
 #include "support/logging_disk.h"
 #include "support/ready_station.h"
@@ -67,6 +68,7 @@ class StationFixture : public ::testing::Test {
   QueuedDialogs dialogs;
   FixedClock clock;
   SilentWindows windows;
+  Devices devices;
   PosixDisk posix_disk;
   LoggingDisk disk{posix_disk, folder.Path()};
 
@@ -74,7 +76,7 @@ class StationFixture : public ::testing::Test {
   std::unique_ptr<Programme> programme = std::make_unique<Programme>(MakePlatform());
 
  private:
-  Platform MakePlatform() { return {settings, messages, dialogs, clock, windows, disk, folder.Path(), '/'}; }
+  Platform MakePlatform() { return devices.Join(settings, messages, dialogs, clock, windows, disk, folder.Path()); }
 };
 
 }  // namespace vorelio::tests

@@ -2,7 +2,8 @@
 
 namespace vorelio::tests {
 
-WindowsBench::WindowsBench() : programme({settings, messages, dialogs, clock, windows, disk, folder.Path(), '/'}) {
+WindowsBench::WindowsBench()
+    : programme(devices.Join(settings, messages, dialogs, clock, windows, disk, folder.Path())) {
   CopyTemplates(folder.Path());
   Sous_Programmes::Cree_Fichiers_Station(programme, "F9QZX");
   SeedStationSettings(settings, folder.Path(), '/', "F9QZX", "JN33BB");

@@ -14,6 +14,7 @@
 #include "platform/posix_disk.h"
 #include "platform/qt/binder.h"
 #include "platform/qt/qt_windows.h"
+#include "support/devices.h"
 #include "support/doubles.h"
 #include "support/ready_station.h"
 #include "support/scratch_folder.h"
@@ -37,6 +38,7 @@ struct WindowsBench {
   RecordedMessages messages;
   QueuedDialogs dialogs;
   FixedClock clock;
+  Devices devices;
   PosixDisk disk;
   QtWindows windows;
   Programme programme;
@@ -73,7 +75,7 @@ class TestForm : public Form {
 /// A form of the test's own, bound to widgets of the test's own.
 template <typename F>
 struct ControlBench {
-  ControlBench() : programme({settings, messages, dialogs, clock, screen, disk, folder.Path(), '/'}) {
+  ControlBench() : programme(devices.Join(settings, messages, dialogs, clock, screen, disk, folder.Path())) {
     programme.Recoit([this] { programme.Fenetre<F>().Show(); });
     new QVBoxLayout(&window);
   }
@@ -100,6 +102,7 @@ struct ControlBench {
   RecordedMessages messages;
   QueuedDialogs dialogs;
   FixedClock clock;
+  Devices devices;
   SilentWindows screen;
   PosixDisk disk;
   OpenGate gate;

@@ -10,7 +10,7 @@
 namespace vorelio::bench {
 
 StationRun::StationRun(int contacts, DateMode mode)
-    : programme_({settings_, messages_, dialogs_, clock_, windows_, disk_, folder_.Path(), '/'}) {
+    : programme_(devices_.Join(settings_, messages_, dialogs_, clock_, windows_, disk_, folder_.Path())) {
   tests::CopyTemplates(folder_.Path());
   Sous_Programmes::Cree_Fichiers_Station(programme_, kStation);
   tests::SeedStationSettings(settings_, folder_.Path(), '/', kStation, "JN33BB");

@@ -5,6 +5,7 @@
 #include "core/programme.h"
 #include "entry/ddfm.h"
 #include "platform/posix_disk.h"
+#include "support/devices.h"
 #include "support/doubles.h"
 #include "support/scratch_folder.h"
 
@@ -48,6 +49,7 @@ class StationRun {
   tests::QueuedDialogs dialogs_;
   tests::FixedClock clock_;
   tests::SilentWindows windows_;
+  tests::Devices devices_;
   PosixDisk disk_;
   Programme programme_;
 };

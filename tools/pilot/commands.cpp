@@ -10,7 +10,7 @@ namespace vorelio::pilot {
 
 void Perform(Run& run, const Command& command) {
   const std::string& name = command.words.front().text;
-  for (const auto find : {FindPreparing, FindActing, FindExpecting})
+  for (const auto find : {FindPreparing, FindActing, FindExpecting, FindDeviceCommand})
     if (const CommandFunction act = find(name)) {
       Args args(run, command);
       return act(run, args);

@@ -49,6 +49,10 @@ struct NamedCommand {
 CommandFunction FindPreparing(std::string_view name);
 CommandFunction FindActing(std::string_view name);
 CommandFunction FindExpecting(std::string_view name);
+CommandFunction FindDeviceCommand(std::string_view name);
+
+/// What is expected of printer, transceiver, web, sounds and clipboard, by the word behind "expect".
+CommandFunction FindDeviceExpectation(std::string_view subject);
 
 template <std::size_t N>
 CommandFunction FindIn(const NamedCommand (&table)[N], std::string_view name) {

@@ -142,6 +142,7 @@ constexpr NamedCommand kExpectations[] = {
 void Expect(Run& run, Args& args) {
   const std::string subject = args.Word("subject");
   if (const CommandFunction act = FindIn(kExpectations, subject)) return act(run, args);
+  if (const CommandFunction act = FindDeviceExpectation(subject)) return act(run, args);
   for (const bool open : {true, false})
     if (args.Take(open ? "open" : "closed")) return ExpectOpen(run, args, subject, open);
   if (args.Take("title")) return ExpectTitle(run, args, subject);

@@ -57,7 +57,8 @@ std::string Run::Expand(std::string text) const {
 }
 
 Platform Run::Stand() {
-  return {way_->Settings(), way_->Messages(), way_->Dialogs(), clock_, way_->Windows(), disk_, folder_.Path(), '/'};
+  return devices_.Join(way_->Settings(), way_->Messages(), way_->Dialogs(), clock_, way_->Windows(), disk_,
+                       folder_.Path());
 }
 
 void Run::Start() {

@@ -14,6 +14,7 @@
 #include "pilot/way.h"
 #include "pilot/words.h"
 #include "platform/posix_disk.h"
+#include "support/devices.h"
 #include "support/doubles.h"
 #include "support/scratch_folder.h"
 
@@ -45,6 +46,7 @@ class Run : private Script {
   tests::FixedClock& Clock() { return clock_; }
   tests::BoxRecord& Boxes() { return boxes_; }
   std::deque<std::string>& Choices() { return choices_; }
+  tests::Devices& Devices() { return devices_; }
 
   /// What a run of the program stands on here.
   Platform Stand();
@@ -96,6 +98,7 @@ class Run : private Script {
   tests::ScratchFolder way_folder_;
   tests::FixedClock clock_;
   tests::BoxRecord boxes_;
+  tests::Devices devices_;
   std::deque<std::string> choices_;
   PosixDisk disk_;
   std::unique_ptr<Way> way_;

@@ -264,11 +264,8 @@ int main(int argc, char** argv) {
     Application application(folder, scratch.path());
     application.appearance.SetTheme(dark ? Appearance::Theme::Dark : Appearance::Theme::Light);
     PicturedMessages messages(application.windows, album);
-    Platform services = application.Services();
     MakeStation(application, folder);
-    const Platform with_pictures{services.settings, messages,      services.dialogs,   services.clock,
-                                 services.windows,  services.disk, services.directory, services.separator};
-    Programme programme(with_pictures);
+    Programme programme(application.Services(messages));
     Tour(application, programme, album).TakeAll(size);
   }
   return 0;

@@ -43,10 +43,16 @@ Application::Application(const ProgramFolder& folder, const QString& settings_fo
       dialogs(windows, messages),
       settings(QDir(settings_folder).filePath(QStringLiteral("Vorelio.ini"))),
       disk(folder.text, folder.bytes),
+      printer(windows),
+      pages(windows),
+      sounds(windows),
       directory_(folder.text) {
   windows.Furnish = [this](const Form& form, QWidget& window) { return extras.Furnish(form, window); };
 }
 
-Platform Application::Services() { return {settings, messages, dialogs, clock, windows, disk, directory_, '/'}; }
+Platform Application::Services(MessageService& boxes) {
+  return {settings, boxes, dialogs, clock,     windows,   disk,       printer,
+          serial,   pages, sounds,  clipboard, documents, directory_, '/'};
+}
 
 }  // namespace vorelio

@@ -6,10 +6,16 @@
 #include "platform/posix_disk.h"
 #include "platform/qt/appearance.h"
 #include "platform/qt/program_folder.h"
+#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_documents.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_messages.h"
+#include "platform/qt/qt_pages.h"
+#include "platform/qt/qt_printer.h"
+#include "platform/qt/qt_serial.h"
 #include "platform/qt/qt_settings.h"
+#include "platform/qt/qt_sounds.h"
 #include "platform/qt/qt_windows.h"
 #include "platform/qt/window_extras.h"
 
@@ -28,7 +34,9 @@ class Application {
   /// The station's settings go to Vorelio.ini of the folder, those of the windows to Fenetres.ini.
   Application(const ProgramFolder& folder, const QString& settings_folder);
 
-  Platform Services();
+  Platform Services() { return Services(messages); }
+  /// The same with other boxes.
+  Platform Services(MessageService& boxes);
 
   QSettings memory;
   Appearance appearance;
@@ -39,6 +47,12 @@ class Application {
   QtSettings settings;
   QtClock clock;
   PosixDisk disk;
+  QtPrinter printer;
+  QtSerial serial;
+  QtPages pages;
+  QtSounds sounds;
+  QtClipboard clipboard;
+  QtDocuments documents;
 
  private:
   std::string directory_;

@@ -262,12 +262,15 @@ void QtWindows::Pump() {
 }
 
 void QtWindows::Wait(const std::function<bool()>& done) {
+  if (!Waiter) return WaitUntil(done);
   const QScopedValueRollback<bool> waiting(pumping_, false);
   ShowPending();
-  if (Waiter) {
-    Waiter(done);
-    return;
-  }
+  Waiter(done);
+}
+
+void QtWindows::WaitUntil(const std::function<bool()>& done) {
+  const QScopedValueRollback<bool> waiting(pumping_, false);
+  ShowPending();
   QEventLoop loop;
   while (!done()) loop.processEvents(QEventLoop::WaitForMoreEvents);
 }

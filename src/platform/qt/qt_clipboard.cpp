@@ -1,0 +1,24 @@
+#include "platform/qt/qt_clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "platform/qt/qt_text.h"
+
+namespace vorelio {
+
+// Other programs of this desktop end their lines in LF alone, the program's texts in CR LF.
+
+std::string QtClipboard::Text() {
+  QString text = QGuiApplication::clipboard()->text();
+  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  return FromQt(text.replace(u'\n', QStringLiteral("\r\n")));
+}
+
+void QtClipboard::SetText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+}
+
+void QtClipboard::Clear() { QGuiApplication::clipboard()->clear(); }
+
+}  // namespace vorelio
