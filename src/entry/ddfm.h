@@ -94,7 +94,7 @@ class DDFM : public Form {
   MenuItem Mnu_Nomenclature, Mnu_Prefixe, Mnu_Ajout_Activite;
   MenuItem Mnu_MAJ_Prefixe, Mnu_MAJ_Departement, Mnu_MAJ_Locator;
   MenuItem Mnu_Stat_Prefixe;
-  MenuItem Mnu_Historique, Mnu_A_Propos;
+  MenuItem Mnu_Mode_Emploi, Mnu_Historique, Mnu_A_Propos;
 
   // --- What other windows use ---
 
@@ -187,6 +187,7 @@ class DDFM : public Form {
 
   // Menus.
   void Mnu_Date_Automatique(bool automatique);
+  void Mnu_Mode_Emploi_Click();
   void Mnu_Restauration_Click();
   void Mnu_RAZ_All_Click();
 };

@@ -57,6 +57,7 @@ void DDFM::Relie_Menus() {
   Mnu_MAJ_Locator.Click = [this] { Refait_Locators(programme_); };
   Mnu_RAZ_All.Click = [this] { Mnu_RAZ_All_Click(); };
   Mnu_Stat_Prefixe.Click = [this] { programme_.Fenetre<Statistique_Prefixe>().Show(); };
+  Mnu_Mode_Emploi.Click = [this] { Mnu_Mode_Emploi_Click(); };
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
   Mnu_A_Propos.Click = [this] {
     programme_.Message(std::string("Vorelio\r\n   revision ") + Revision_Programme +
@@ -72,6 +73,13 @@ void DDFM::Mnu_Date_Automatique(bool automatique) {
   if (!automatique) return;
   Date_A.Clear();
   Remarques_A.Clear();
+}
+
+void DDFM::Mnu_Mode_Emploi_Click() {
+  const std::string separateur(1, programme_.plateforme.separator);
+  const std::string manuel = programme_.Chemin("manuel" + separateur + "index.html");
+  if (!programme_.plateforme.documents.Open(manuel))
+    programme_.Message("Le mode d'emploi n'a pas pu être ouvert. Il est dans le fichier :\r\n"_t + manuel);
 }
 
 void DDFM::Mnu_Restauration_Click() {

@@ -110,8 +110,11 @@ class SettingsTest : public QObject {
     QCOMPARE(home.Read("Vorelio/FXXXX_Departement.txt"), system.Read("share/vorelio/FXXXX_Departement.txt"));
     QCOMPARE(home.Read("Vorelio/Nomenclature.txt"), "F6ABC      57 JN39BC\r\n");
     home.Write("Vorelio/FXXXX.log", "work");
+    system.Write("share/vorelio/manuel/index.html", "renewed");
+    home.Write("Vorelio/manuel/index.html", "old");
     QVERIFY(find());
     QCOMPARE(home.Read("Vorelio/FXXXX.log"), "work");
+    QCOMPARE(home.Read("Vorelio/manuel/index.html"), "renewed");
   }
 
   void AFolderThatCannotBeMadeIsToldOf() {

@@ -27,6 +27,8 @@ class StationRun {
   std::string File(const std::string& ending) const { return folder_.File(kStation + ending); }
   /// Where the next file dialog finds its answer.
   tests::QueuedDialogs& Dialogs() { return dialogs_; }
+  /// What the program has shown, and the answers to its questions.
+  tests::BoxRecord& Boxes() { return messages_; }
   /// Copies a file of the template station over the station's.
   void Restore(const std::string& ending);
 

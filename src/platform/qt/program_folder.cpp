@@ -22,14 +22,24 @@ ProgramFolder Described(const QDir& folder) {
   return {path, FromQt(path), QFile::encodeName(path).toStdString()};
 }
 
-/// Copies the files of a folder and of those in it; what exists stays. By way of another name, for a copy that is cut
-/// short not to pass for the whole.
+/// What lies in folders below (the manual, the maps) is the program's alone, and goes with its version; the files
+/// beside it become the user's once they are there.
+bool Outdated(const QString& name, const QString& source, const QString& target) {
+  return name.contains(u'/') && (QFileInfo(source).size() != QFileInfo(target).size() ||
+                                 QFileInfo(source).lastModified() > QFileInfo(target).lastModified());
+}
+
+/// Copies the files of a folder and of those in it; what is the user's stays. By way of another name, for a copy that
+/// is cut short not to pass for the whole.
 bool Seed(const QDir& from, const QDir& to, QString& problem) {
   QDirIterator files(from.path(), QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
     const QString name = from.relativeFilePath(files.next());
     const QString target = to.filePath(name);
-    if (QFile::exists(target)) continue;
+    if (QFile::exists(target)) {
+      if (!Outdated(name, files.filePath(), target)) continue;
+      QFile::remove(target);
+    }
     const QString partial = target + QStringLiteral(".neuf");
     QFile::remove(partial);
     const bool copied = QDir().mkpath(QFileInfo(target).path()) && QFile::copy(files.filePath(), partial) &&
