@@ -12,6 +12,9 @@ namespace vorelio::Sous_Programmes {
 std::string Date_UTC(Programme& programme);
 std::string Date_Locale(Programme& programme);
 
+/// Today by the local clock with the year in full, dd/mm/yyyy: for the titles of listings.
+std::string Date_Du_Jour(Programme& programme);
+
 /// hh:mm:ss.
 std::string Heure_UTC(Programme& programme);
 std::string Heure_Locale(Programme& programme);

@@ -93,7 +93,8 @@ class DDFM : public Form {
   MenuItem Mnu_Auto_Oui, Mnu_Auto_Non, Mnu_UTC_Oui, Mnu_UTC_Non, Mnu_Sep_Oui, Mnu_Sep_Non, Mnu_Exp_Oui, Mnu_Exp_Non;
   MenuItem Mnu_Nomenclature, Mnu_Prefixe, Mnu_Ajout_Activite;
   MenuItem Mnu_MAJ_Prefixe, Mnu_MAJ_Departement, Mnu_MAJ_Locator;
-  MenuItem Mnu_Stat_Prefixe;
+  MenuItem Mnu_Stat_QSO{*this, "Mnu_Stat_QSO", "Generales des QSO"};
+  MenuItem Mnu_Stat_Dist, Mnu_Stat_Prefixe, Mnu_Stat_DFCF;
   MenuItem Mnu_Mode_Emploi, Mnu_Historique, Mnu_A_Propos;
 
   // --- What other windows use ---

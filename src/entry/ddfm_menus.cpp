@@ -16,6 +16,9 @@
 #include "tallies/directory_window.h"
 #include "tallies/prefix_statistics_window.h"
 #include "tallies/rebuild.h"
+#include "views/activation_statistics_window.h"
+#include "views/distance_statistics_window.h"
+#include "views/qso_statistics_window.h"
 
 namespace vorelio {
 
@@ -56,6 +59,9 @@ void DDFM::Relie_Menus() {
   Mnu_MAJ_Departement.Click = [this] { Refait_Departements(programme_); };
   Mnu_MAJ_Locator.Click = [this] { Refait_Locators(programme_); };
   Mnu_RAZ_All.Click = [this] { Mnu_RAZ_All_Click(); };
+  Mnu_Stat_QSO.Click = [this] { programme_.Fenetre<Statistique_QSO>().Show(); };
+  Mnu_Stat_Dist.Click = [this] { programme_.Fenetre<Statistiques>().Show(); };
+  Mnu_Stat_DFCF.Click = [this] { programme_.Fenetre<Statistique_DFCF>().Show(); };
   Mnu_Stat_Prefixe.Click = [this] { programme_.Fenetre<Statistique_Prefixe>().Show(); };
   Mnu_Mode_Emploi.Click = [this] { Mnu_Mode_Emploi_Click(); };
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };

@@ -56,7 +56,9 @@ DDFM::DDFM(Programme& programme)
       Mnu_MAJ_Prefixe(*this, "Mnu_MAJ_Prefixe", "Mise a jour des prefixes contactés"_t),
       Mnu_MAJ_Departement(*this, "Mnu_MAJ_Departement", "Mise a jour des départements contactés"_t),
       Mnu_MAJ_Locator(*this, "Mnu_MAJ_Locator", "Mise a jour des locators contactés"_t),
+      Mnu_Stat_Dist(*this, "Mnu_Stat_Dist", "Distances des stations contactées"_t),
       Mnu_Stat_Prefixe(*this, "Mnu_Stat_Prefixe", "Des prefixes contactés"_t),
+      Mnu_Stat_DFCF(*this, "Mnu_Stat_DFCF", "Des activations Contactées"_t),
       Mnu_Mode_Emploi(*this, "Mnu_Mode_Emploi", "Mode d'emploi"),
       Mnu_Historique(*this, "Mnu_Historique", "Historique"),
       Mnu_A_Propos(*this, "Mnu_A_Propos", "A Propos de") {

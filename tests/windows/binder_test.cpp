@@ -26,6 +26,9 @@
 #include "tallies/directory_window.h"
 #include "tallies/prefix_statistics_window.h"
 #include "tallies/progress_window.h"
+#include "views/activation_statistics_window.h"
+#include "views/distance_statistics_window.h"
+#include "views/qso_statistics_window.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {
@@ -47,6 +50,9 @@ constexpr Maker kForms[] = {Make<DDFM>,
                             Make<Ajout_Prefixe>,
                             Make<Progression>,
                             Make<Statistique_Prefixe>,
+                            Make<Statistique_QSO>,
+                            Make<Statistiques>,
+                            Make<Statistique_DFCF>,
                             Make<Fichier_Nomenclature>,
                             Make<Ajout_Activite>,
                             Make<Delta_QSO>,

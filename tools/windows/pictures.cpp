@@ -31,6 +31,9 @@
 #include "tallies/prefix_statistics_window.h"
 #include "tallies/prefix_tally.h"
 #include "tallies/progress_window.h"
+#include "views/activation_statistics_window.h"
+#include "views/distance_statistics_window.h"
+#include "views/qso_statistics_window.h"
 
 /// Saves a picture of every window, light and dark, with a made-up station and its log.
 using namespace vorelio;
@@ -166,6 +169,12 @@ class Tour {
     TakeWindow<Station>();
     TakeWindow<Ajout_Prefixe>();
     TakeWindow<Statistique_Prefixe>();
+    TakeWindow<Statistique_QSO>();
+    TakeWindow<Statistiques>();
+    Do([&] { programme_.Fenetre<Statistique_DFCF>().Show(); });
+    Do([&] { programme_.Fenetre<Statistique_DFCF>().Bande_E.SetListIndex(1); });
+    Do([&] { programme_.Fenetre<Statistique_DFCF>().Affiche_Contact.UserClick(); });
+    TakeWindow<Statistique_DFCF>();
     TakeWindow<Fichier_Nomenclature>();
     TakeWindow<Ajout_Activite>();
     TakeWindow<Delta_QSO>();

@@ -116,13 +116,41 @@ QObject* Binding::Find(const QString& name, QWidget& window) const {
   return window.findChild<QObject*>(QStringLiteral("%1_%2").arg(element.array).arg(element.index));
 }
 
-/// An element of an array for which the window has a holder only: a cell is made in it, in rows of as many as its
-/// property "colonnes" says.
+namespace {
+
+struct Place {
+  int row = 0;
+  int column = 0;
+};
+
+/// Where the next element goes in a holder: in rows of as many as its property "colonnes" says. A holder with the
+/// property "ordre" is a table with titles in its first row and column: there the elements, counted from 1, go down the
+/// columns that it names, as many to each as "lignes" says.
+Place PlaceIn(const QWidget& holder, const QGridLayout& grid, int index) {
+  const QStringList order = holder.property("ordre").toString().split(u';', Qt::SkipEmptyParts);
+  if (order.isEmpty()) {
+    const int columns = std::max(1, holder.property("colonnes").toInt());
+    return {grid.count() / columns, grid.count() % columns};
+  }
+  const int lines = std::max(1, holder.property("lignes").toInt());
+  return {1 + (index - 1) % lines, order.value((index - 1) / lines).toInt()};
+}
+
+/// The titles of a place in a table, or nothing where it has none.
+QString TitlesOf(const QGridLayout& grid, const Place& place) {
+  QStringList words;
+  for (const QLayoutItem* title : {grid.itemAtPosition(0, place.column), grid.itemAtPosition(place.row, 0)})
+    if (const auto* label = title ? qobject_cast<const QLabel*>(title->widget()) : nullptr) words << label->text();
+  return words.join(QStringLiteral(", "));
+}
+
+}  // namespace
+
+/// An element of an array for which the window has a holder only: a cell is made in it.
 QObject* Binding::Fill(Control& control, QWidget& window) {
   const Element element = ElementOf(ToQt(control.Name()));
   auto* holder = element.array.isEmpty() ? nullptr : window.findChild<QWidget*>(element.array);
   if (!holder) return nullptr;
-  const int columns = std::max(1, holder->property("colonnes").toInt());
   auto* grid = qobject_cast<QGridLayout*>(holder->layout());
   if (!grid) {
     delete holder->layout();
@@ -131,14 +159,19 @@ QObject* Binding::Fill(Control& control, QWidget& window) {
     grid->setSpacing(holder->property("ecart").toInt());
   }
   QWidget* cell = nullptr;
-  if (dynamic_cast<TextField*>(&control)) cell = new GridCell(*holder, columns);
+  if (dynamic_cast<TextField*>(&control)) cell = new GridCell(*holder);
   if (dynamic_cast<Label*>(&control)) cell = new CaptionLabel(holder);
   if (dynamic_cast<CheckBox*>(&control)) cell = new QCheckBox(holder);
   if (dynamic_cast<OptionButton*>(&control)) cell = new QRadioButton(holder);
   if (!cell) return nullptr;
   cell->setObjectName(ToQt(control.Name()));
-  cell->setAccessibleName(holder->accessibleName() + u' ' + QString::number(element.index));
-  grid->addWidget(cell, grid->count() / columns, grid->count() % columns);
+  const Place place = PlaceIn(*holder, *grid, element.index);
+  const QString titles = TitlesOf(*grid, place);
+  const bool table = !titles.isEmpty();
+  cell->setAccessibleName(table ? titles : holder->accessibleName() + u' ' + QString::number(element.index));
+  if (auto* figure = table ? qobject_cast<QLineEdit*>(cell) : nullptr)
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  grid->addWidget(cell, place.row, place.column);
   return cell;
 }
 

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
+#include "platform/qt/rows_view.h"
 #include "platform/qt/view.h"
 
 /// Views of the controls that are a caption, and something to click on with some of them. The captions of the .ui
@@ -24,6 +25,8 @@ class CaptionLabel : public QLabel {
   bool plate_ = false;
 };
 
+/// Shows the words of a label. One with the property "sur_colonnes" ("4;7;...") heads the list that is its buddy: its
+/// words, which blanks once set apart by eye, stand as that list's titles over these columns.
 class LabelView : public ViewOf<Label, QLabel> {
  public:
   LabelView(Label& label, QLabel& shown, Gate& gate);
@@ -31,6 +34,9 @@ class LabelView : public ViewOf<Label, QLabel> {
  protected:
   void Show(Property property) override;
   void ShowColour() override;
+
+ private:
+  void HeadColumns(RowsView& rows, const QString& words) const;
 };
 
 /// A frame: a group box with its caption as its title, or any widget, whose caption stands in its label

@@ -5,7 +5,7 @@
 
 namespace vorelio {
 
-GridCell::GridCell(QWidget& holder, int columns) : QLineEdit(&holder), columns_(columns) {
+GridCell::GridCell(QWidget& holder) : QLineEdit(&holder) {
   setFocusPolicy(Qt::ClickFocus);
   setAlignment(Qt::AlignCenter);
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -18,18 +18,20 @@ QSize GridCell::sizeHint() const {
 }
 
 void GridCell::keyPressEvent(QKeyEvent* event) {
-  int step = 0;
+  int down = 0, right = 0;
   switch (event->key()) {
-    case Qt::Key_Left: step = -1; break;
-    case Qt::Key_Right: step = 1; break;
-    case Qt::Key_Up: step = -columns_; break;
-    case Qt::Key_Down: step = columns_; break;
+    case Qt::Key_Left: right = -1; break;
+    case Qt::Key_Right: right = 1; break;
+    case Qt::Key_Up: down = -1; break;
+    case Qt::Key_Down: down = 1; break;
     default: QLineEdit::keyPressEvent(event); return;
   }
-  const QLayout* grid = parentWidget()->layout();
-  const QLayoutItem* next = grid->itemAt(grid->indexOf(this) + step);
-  // The reason of a tab tells the model that the user has come here.
-  if (next && next->widget()) next->widget()->setFocus(Qt::TabFocusReason);
+  const auto* grid = qobject_cast<QGridLayout*>(parentWidget()->layout());
+  int row = 0, column = 0, rows = 0, columns = 0;
+  grid->getItemPosition(grid->indexOf(this), &row, &column, &rows, &columns);
+  const QLayoutItem* next = grid->itemAtPosition(row + down, column + right);
+  // The reason of a tab tells the model that the user has come here. Titles beside the cells take no focus.
+  if (next && dynamic_cast<GridCell*>(next->widget())) next->widget()->setFocus(Qt::TabFocusReason);
 }
 
 }  // namespace vorelio

@@ -1,0 +1,56 @@
+#include "views/activation_statistics_window.h"
+
+#include <string>
+
+#include "core/bands.h"
+#include "core/clock_text.h"
+#include "core/text.h"
+#include "maintenance/activity_list.h"
+#include "views/statistics.h"
+
+namespace vorelio {
+
+using namespace Sous_Programmes;
+
+Statistique_DFCF::Statistique_DFCF(Programme& programme)
+    : Form(programme, "Statistique_DFCF", "Statistiques des activations contactées"_t) {
+  Affiche_Contact.Click = [this] { Affiche_Contact_Click(); };
+  Enregistrement.Click = [this] { Enregistrement_Click(); };
+}
+
+void Statistique_DFCF::Form_Load() {
+  Centre();
+  Bande_E.AddItem(kBandes_HF_Ensemble);
+  Bande_E.AddItem(kBandes_VHF_Ensemble);
+  for (const auto bande : kBandes) Bande_E.AddItem(bande);
+  for (const std::string& nom : Noms_Activites(programme_, "Err2")) Activite_A.AddItem(nom);
+  Bande_E.SetListIndex(0);
+  Activite_A.SetListIndex(0);
+}
+
+void Statistique_DFCF::Affiche_Contact_Click() {
+  BandActiv.SetCaption(Rogne(Bande_E.Text()));
+  TypActiv.SetCaption(Rogne(Activite_A.Text()));
+  Liste_Chateaux.ClearItems();
+  const std::string log = programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif));
+  const std::string indice = std::to_string(Activite_A.ListIndex() + 1);
+  for (const std::string& ligne : Lignes_Activation(log, indice, Bande_E.Text())) Liste_Chateaux.AddItem(ligne);
+  TotActiv.SetCaption(Texte_Nombre_Blanc(Liste_Chateaux.Count()));
+}
+
+void Statistique_DFCF::Enregistrement_Click() {
+  const std::string& station = programme_.contexte.Station_Indicatif;
+  const auto ligne = [](const std::string& texte) { return texte + std::string(kFin_De_Ligne); };
+  // The words are of castles whatever the activity: readers of these files know them so.
+  std::string texte = ligne(station + " Liste alphanumerique des Chateaux contactés sur "_t + Bande_E.Text() + " au " +
+                            Date_Du_Jour(programme_)) +
+                      ligne("");
+  for (const std::string& contact : Liste_Chateaux.Items()) texte += ligne(contact);
+  texte += ligne("") + ligne("Nombre total de Chateaux : " + Texte_Nombre_Blanc(Liste_Chateaux.Count()));
+
+  const std::string chemin = programme_.Chemin_Station(" " + Bande_E.Text() + " Alphanumerique.txt");
+  programme_.Disque().WriteAll(chemin, texte);
+  programme_.Message("Le fichier a été enregistré sous le nom : "_t + chemin);
+}
+
+}  // namespace vorelio

@@ -1,0 +1,33 @@
+#include "views/distance_statistics_window.h"
+
+#include <numeric>
+#include <string>
+
+#include "views/statistics.h"
+
+namespace vorelio {
+
+Statistiques::Statistiques(Programme& programme)
+    : Form(programme, "Statistiques", "Statistiques distances"),
+      Text11(*this, "Text11", 1, static_cast<int>(kBandes_Distance.size()) * kClasses_Distance) {
+  for (const auto& cellule : Text11) cellule->SetReadOnly(true);
+  for (TextField* total : Totaux()) total->SetReadOnly(true);
+}
+
+void Statistiques::Form_Load() {
+  Centre();
+  const std::string log = programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif));
+  const Comptes_Distance comptes = Compte_Distances(log);
+  // The table has always read its bands through the band of the entry form.
+  if (comptes.derniere_bande) programme_.contexte.Bande_Courante = *comptes.derniere_bande;
+
+  int cellule = Text11.First();
+  const auto totaux = Totaux();
+  for (std::size_t bande = 0; bande < totaux.size(); ++bande) {
+    const auto& classes = comptes.cellules[bande];
+    for (const int compte : classes) Text11(cellule++).SetText(compte == 0 ? "" : std::to_string(compte));
+    totaux[bande]->SetText(std::to_string(std::accumulate(classes.begin(), classes.end(), 0)));
+  }
+}
+
+}  // namespace vorelio

@@ -1,0 +1,26 @@
+#include "views/qso_statistics_window.h"
+
+#include <string>
+
+#include "core/text.h"
+#include "maintenance/activity_list.h"
+#include "views/statistics.h"
+
+namespace vorelio {
+
+Statistique_QSO::Statistique_QSO(Programme& programme) : Form(programme, "Statistique_QSO", "Statistiques des QSO") {}
+
+void Statistique_QSO::Form_Load() {
+  Centre();
+  Label19.SetCaption("  Activités         Nb QSO         QSL Ev              QSL Re"_t);
+  const auto noms = Sous_Programmes::Noms_Activites(programme_, "Err4");
+  Comptes_QSO comptes =
+      Compte_QSO(programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif)));
+  NbQSO.SetCaption(Texte_Nombre_Blanc(comptes.total));
+  NbFR.SetCaption(Texte_Nombre_Blanc(comptes.francais));
+  NbET.SetCaption(Texte_Nombre_Blanc(comptes.total - comptes.francais));
+  int numero = 0;
+  for (const std::string& nom : noms) StatActivite.AddItem(Ligne_Activite(nom, comptes.Activite(++numero)));
+}
+
+}  // namespace vorelio
