@@ -95,6 +95,8 @@ class DDFM : public Form {
   MenuItem Mnu_MAJ_Prefixe, Mnu_MAJ_Departement, Mnu_MAJ_Locator;
   MenuItem Mnu_Stat_QSO{*this, "Mnu_Stat_QSO", "Generales des QSO"};
   MenuItem Mnu_Stat_Dist, Mnu_Stat_Prefixe, Mnu_Stat_DFCF;
+  MenuItem Mnu_Imprime_Tout{*this, "Mnu_Imprime_Tout", "le log"};
+  MenuItem Mnu_Print_Activite;
   MenuItem Mnu_Mode_Emploi, Mnu_Historique, Mnu_A_Propos;
 
   // --- What other windows use ---
@@ -174,6 +176,7 @@ class DDFM : public Form {
   void Effacer_Click();
   void Annuler_Click();
   void Gestion_QSL_Click();
+  void Recherche_Click();
   bool Rien_De_Choisi();
   void Montre_Ligne();
   void Montre_QSL();
@@ -185,12 +188,14 @@ class DDFM : public Form {
   void Option1_Click();
   void Bande_DDFM_Click();
   void Carre_DDFM_Click();
+  void Dpt_DblClick(int cellule);
 
   // Menus.
   void Mnu_Date_Automatique(bool automatique);
   void Mnu_Mode_Emploi_Click();
   void Mnu_Restauration_Click();
   void Mnu_RAZ_All_Click();
+  void Mnu_Imprime_Tout_Click();
 };
 
 }  // namespace vorelio

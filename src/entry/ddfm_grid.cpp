@@ -3,6 +3,7 @@
 #include "entry/ddfm.h"
 #include "tallies/department_tally.h"
 #include "tallies/locator_tally.h"
+#include "views/department_window.h"
 
 namespace vorelio {
 
@@ -72,6 +73,13 @@ void DDFM::Bande_DDFM_Click() {
 void DDFM::Carre_DDFM_Click() {
   Carre_DDFM.SetEnabled(true);
   Grille_Carres();
+}
+
+// A cell of squares opens the department of its number as well.
+void DDFM::Dpt_DblClick(int cellule) {
+  auto& fenetre = programme_.Fenetre<Affiche_Dpt>();
+  fenetre.Montre_Departement(cellule);
+  fenetre.ShowModal();
 }
 
 }  // namespace vorelio

@@ -11,6 +11,8 @@
 #include "maintenance/backup.h"
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/restore_activities_window.h"
+#include "printing/print_activity_window.h"
+#include "printing/print_log_window.h"
 #include "tallies/add_prefix_window.h"
 #include "tallies/department_tally.h"
 #include "tallies/directory_window.h"
@@ -63,6 +65,8 @@ void DDFM::Relie_Menus() {
   Mnu_Stat_Dist.Click = [this] { programme_.Fenetre<Statistiques>().Show(); };
   Mnu_Stat_DFCF.Click = [this] { programme_.Fenetre<Statistique_DFCF>().Show(); };
   Mnu_Stat_Prefixe.Click = [this] { programme_.Fenetre<Statistique_Prefixe>().Show(); };
+  Mnu_Imprime_Tout.Click = [this] { Mnu_Imprime_Tout_Click(); };
+  Mnu_Print_Activite.Click = [this] { programme_.Fenetre<Print_Activite>().Show(); };
   Mnu_Mode_Emploi.Click = [this] { Mnu_Mode_Emploi_Click(); };
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
   Mnu_A_Propos.Click = [this] {
@@ -115,6 +119,13 @@ void DDFM::Mnu_RAZ_All_Click() {
   Bande_A.SetColour(kSaisie);
   Mode_A.SetColour(kFait);
   Bande_A.SetFocus();
+}
+
+void DDFM::Mnu_Imprime_Tout_Click() {
+  auto& fenetre = programme_.Fenetre<Print_Log>();
+  fenetre.Debut_Ligne.Clear();
+  fenetre.Fin_Ligne.Clear();
+  fenetre.Show();
 }
 
 }  // namespace vorelio

@@ -3,6 +3,7 @@
 #include "entry/ddfm.h"
 #include "qsl/qsl_window.h"
 #include "tallies/department_tally.h"
+#include "views/search_window.h"
 
 namespace vorelio {
 
@@ -161,6 +162,8 @@ void DDFM::Gestion_QSL_Click() {
   qsl.Montre_QSO(ligne);
   qsl.Show();
 }
+
+void DDFM::Recherche_Click() { programme_.Fenetre<Recherche_Indicatif>().Show(); }
 
 void DDFM::Reprend_Apres_QSL() {
   auto& contexte = programme_.contexte;

@@ -59,6 +59,7 @@ DDFM::DDFM(Programme& programme)
       Mnu_Stat_Dist(*this, "Mnu_Stat_Dist", "Distances des stations contactées"_t),
       Mnu_Stat_Prefixe(*this, "Mnu_Stat_Prefixe", "Des prefixes contactés"_t),
       Mnu_Stat_DFCF(*this, "Mnu_Stat_DFCF", "Des activations Contactées"_t),
+      Mnu_Print_Activite(*this, "Mnu_Print_Activite", "le log d'une activité"_t),
       Mnu_Mode_Emploi(*this, "Mnu_Mode_Emploi", "Mode d'emploi"),
       Mnu_Historique(*this, "Mnu_Historique", "Historique"),
       Mnu_A_Propos(*this, "Mnu_A_Propos", "A Propos de") {
@@ -80,8 +81,6 @@ DDFM::DDFM(Programme& programme)
     inactif->SetEnabled(false);
   Verrouille_Champs();
   Liste_QSO_Bis.SetVisible(false);
-  // It leads to a window that this version doesn't have.
-  Recherche.SetVisible(false);
   Relie_Evenements();
 }
 
@@ -117,12 +116,14 @@ void DDFM::Relie_Evenements() {
   clic(Editer, &DDFM::Editer_Click);
   clic(Effacer, &DDFM::Effacer_Click);
   clic(Gestion_QSL, &DDFM::Gestion_QSL_Click);
+  clic(Recherche, &DDFM::Recherche_Click);
   clic(Liste_QSO, &DDFM::Liste_QSO_Click);
   Liste_QSO.DblClick = [this] { Liste_QSO_DblClick(); };
   clic(Option1(0), &DDFM::Option1_Click);
   clic(Option1(1), &DDFM::Option1_Click);
   clic(Bande_DDFM, &DDFM::Bande_DDFM_Click);
   clic(Carre_DDFM, &DDFM::Carre_DDFM_Click);
+  for (int i = 0; i < Dpt.Count(); ++i) Dpt(i).DblClick = [this, i] { Dpt_DblClick(i); };
 
   Relie_Menus();
 }

@@ -102,6 +102,12 @@ void TextField::UserCaret(int position, int length) {
   if (Reachable()) SetCaret(position, length);
 }
 
+void TextField::UserClick() {
+  if (!Reachable()) return;
+  SetFocus();
+  Raise(Click);
+}
+
 void TextField::UserDblClick() {
   if (!Reachable()) return;
   SetFocus();

@@ -138,6 +138,7 @@ class TextField : public Control {
   const std::string& Words() const override { return text_; }
 
   KeyHandler KeyPress;
+  std::function<void()> Click;
   std::function<void()> DblClick;
 
   /// One key of the user: through `KeyPress`, then into the text (Enter joins only a multi-line text).
@@ -145,6 +146,8 @@ class TextField : public Control {
   /// The user has changed the text without characters of his own: deleted, pasted, dropped.
   void UserText(std::string_view text, int caret);
   void UserCaret(int position, int length);
+  /// The mouse, and nothing else: who comes here with the keys doesn't click.
+  void UserClick();
   void UserDblClick();
 
  private:

@@ -95,8 +95,8 @@ std::vector<std::string> Lignes_Activation(std::string_view log, std::string_vie
   Mot_QSL lettre = Lettre_QSL();
   for (Lecteur_Lignes lignes(log); !lignes.Fini();) {
     const std::string_view ligne = lignes.Suivante();
-    if (Lit_Log(ligne, champs::Activ_A) != indice) continue;
     const std::string& carte = lettre.De(Lit_Log(ligne, champs::Etat_QSL));
+    if (Lit_Log(ligne, champs::Activ_A) != indice) continue;
     if (!Bande_Choisie(Lit_Log(ligne, champs::Bande_A), choix)) continue;
     std::string& texte = trouvees.emplace_back("  ");
     texte.append(Coupe(ligne, champs::QTH_A.colonne, 15)).append(Coupe(ligne, champs::Remarques_A.colonne, 30));

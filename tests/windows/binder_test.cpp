@@ -20,6 +20,8 @@
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "platform/qt/qt_text.h"
+#include "printing/print_activity_window.h"
+#include "printing/print_log_window.h"
 #include "qsl/multi_qsl_window.h"
 #include "qsl/qsl_window.h"
 #include "tallies/add_prefix_window.h"
@@ -27,8 +29,10 @@
 #include "tallies/prefix_statistics_window.h"
 #include "tallies/progress_window.h"
 #include "views/activation_statistics_window.h"
+#include "views/department_window.h"
 #include "views/distance_statistics_window.h"
 #include "views/qso_statistics_window.h"
+#include "views/search_window.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {
@@ -53,6 +57,10 @@ constexpr Maker kForms[] = {Make<DDFM>,
                             Make<Statistique_QSO>,
                             Make<Statistiques>,
                             Make<Statistique_DFCF>,
+                            Make<Recherche_Indicatif>,
+                            Make<Print_Log>,
+                            Make<Print_Activite>,
+                            Make<Affiche_Dpt>,
                             Make<Fichier_Nomenclature>,
                             Make<Ajout_Activite>,
                             Make<Delta_QSO>,

@@ -18,6 +18,7 @@
 #include "tallies/department_tally.h"
 #include "tallies/prefix_tally.h"
 #include "tally_measures.h"
+#include "view_measures.h"
 
 namespace vorelio::bench {
 namespace {
@@ -119,6 +120,8 @@ void MeasureAll() {
   MeasureCards(rows);
   std::fprintf(stderr, "Imports...\n");
   MeasureImports(rows);
+  std::fprintf(stderr, "Statistics and searches...\n");
+  MeasureViews(rows);
   MeasureStarts(rows);
   Print(rows);
 }

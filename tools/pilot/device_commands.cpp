@@ -127,7 +127,8 @@ PaperEvent NextOnPaper(Run& run, const std::string& expected) {
 void ExpectPrinted(Run& run, Args& args) {
   const std::string text = args.Text("text");
   std::string font;
-  if (args.More()) font = std::to_string(args.Number("size")) + (args.Take("bold") ? " bold" : "");
+  if (args.More()) font = std::to_string(args.Number("size"));
+  if (args.Take("bold")) font += " bold";
   args.End();
   const std::string expected = Printed(text, font);
   const PaperEvent event = NextOnPaper(run, expected);

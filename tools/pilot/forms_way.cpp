@@ -81,7 +81,7 @@ class FormsWay : public Way {
 
   bool Click(Control& control) override {
     return ClickOn<Button>(control) || ClickOn<CheckBox>(control) || ClickOn<OptionButton>(control) ||
-           ClickOn<MenuItem>(control) || FocusOn<TextField>(control) || FocusOn<ListControl>(control);
+           ClickOn<MenuItem>(control) || ClickOn<TextField>(control) || FocusOn<ListControl>(control);
   }
 
   bool DblClick(Control& control, int row) override {

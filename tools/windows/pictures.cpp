@@ -23,6 +23,8 @@
 #include "maintenance/restore_activities_window.h"
 #include "platform/qt/application.h"
 #include "platform/qt/qt_text.h"
+#include "printing/print_activity_window.h"
+#include "printing/print_log_window.h"
 #include "qsl/multi_qsl_window.h"
 #include "qsl/qsl_window.h"
 #include "tallies/add_prefix_window.h"
@@ -32,8 +34,10 @@
 #include "tallies/prefix_tally.h"
 #include "tallies/progress_window.h"
 #include "views/activation_statistics_window.h"
+#include "views/department_window.h"
 #include "views/distance_statistics_window.h"
 #include "views/qso_statistics_window.h"
+#include "views/search_window.h"
 
 /// Saves a picture of every window, light and dark, with a made-up station and its log.
 using namespace vorelio;
@@ -175,6 +179,13 @@ class Tour {
     Do([&] { programme_.Fenetre<Statistique_DFCF>().Bande_E.SetListIndex(1); });
     Do([&] { programme_.Fenetre<Statistique_DFCF>().Affiche_Contact.UserClick(); });
     TakeWindow<Statistique_DFCF>();
+    Do([&] { programme_.Fenetre<Recherche_Indicatif>().Indica.SetText("F9"); });
+    Do([&] { programme_.Fenetre<Recherche_Indicatif>().Indica.UserKey(kEntree); });
+    TakeWindow<Recherche_Indicatif>();
+    Do([&] { programme_.Fenetre<Affiche_Dpt>().Montre_Departement(57); });
+    TakeWindow<Affiche_Dpt>();
+    TakeWindow<Print_Log>();
+    TakeWindow<Print_Activite>();
     TakeWindow<Fichier_Nomenclature>();
     TakeWindow<Ajout_Activite>();
     TakeWindow<Delta_QSO>();

@@ -137,10 +137,17 @@ bool TextFieldView::eventFilter(QObject* watched, QEvent* event) {
       }
       break;
     case QEvent::MouseButtonRelease:
-    case QEvent::KeyRelease:
-      QMetaObject::invokeMethod(
-          this, [this] { TellCaret(); }, Qt::QueuedConnection);
+    case QEvent::KeyRelease: {
+      const bool click = control_.Click && event->type() == QEvent::MouseButtonRelease &&
+                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+      // Behind what the widget makes of the event.
+      const auto tell = [this, click] {
+        TellCaret();
+        if (click && Bound()) Deliver([this] { control_.UserClick(); });
+      };
+      QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
       break;
+    }
     default: break;
   }
   return ViewOf::eventFilter(watched, event);

@@ -106,11 +106,12 @@ class WindowsWay : public Way {
       Choose(*entry);
       return true;
     }
-    if (dynamic_cast<TextField*>(&control) || dynamic_cast<ListControl*>(&control)) {
+    const auto* field = dynamic_cast<TextField*>(&control);
+    if ((field && !field->Click) || dynamic_cast<ListControl*>(&control)) {
       Enter(control, Reach(control));
       return true;
     }
-    if (!Clickable(control)) return false;
+    if (!field && !Clickable(control)) return false;
     Press(Reach(control));
     return true;
   }

@@ -1,0 +1,34 @@
+#include "views/department_window.h"
+
+#include "core/log_line.h"
+#include "core/text.h"
+#include "entry/ddfm.h"
+#include "views/found_line.h"
+
+namespace vorelio {
+
+Affiche_Dpt::Affiche_Dpt(Programme& programme) : Form(programme, "Affiche_Dpt", "QSO's effectués par départements"_t) {
+  QSO_DU_Dep.DblClick = [this] {
+    Selectionne_Dans_Log(programme_, QSO_DU_Dep.Text());
+    Unload();
+  };
+}
+
+void Affiche_Dpt::Form_Load() {
+  Centre();
+  Label1.SetCaption(
+      "       N°    Date      Indicatif       Debut     Fin    Dpt   Locator   Bande   Mode        RstE         RstR"
+      "              QTH                          Prénom"_t);
+}
+
+void Affiche_Dpt::Montre_Departement(int cellule) {
+  std::string departement = Deux_Chiffres(cellule);
+  const auto& log = programme_.Fenetre<DDFM>().Liste_QSO.Items();
+  // The grid numbers Corsica, the log writes its letters. An empty log leaves the number.
+  if (!log.empty()) departement = Forme_Affichee(departement);
+  for (const std::string& element : log)
+    if (Coupe(element, champs::Depart_A.colonne + kColonnes_Numero, 2) == departement) QSO_DU_Dep.AddItem(element);
+  Label2.SetCaption(departement);
+}
+
+}  // namespace vorelio

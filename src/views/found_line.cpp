@@ -1,0 +1,15 @@
+#include "views/found_line.h"
+
+#include "core/text.h"
+#include "entry/ddfm.h"
+
+namespace vorelio {
+
+void Selectionne_Dans_Log(Programme& programme, std::string_view ligne) {
+  ListBox& log = programme.Fenetre<DDFM>().Liste_QSO;
+  const std::string_view cherchee = Coupe(ligne, 1, kColonnes_Trouvees);
+  for (int i = 0; i < log.Count(); ++i)
+    if (Coupe(log.Item(i), 1, kColonnes_Trouvees) == cherchee) log.SetListIndex(i);
+}
+
+}  // namespace vorelio
