@@ -216,6 +216,29 @@ class BinderTest : public QObject {
                                        "Label99: no control behind this QLabel"}));
   }
 
+  void ATableNamesItsCellsByItsTitles() {
+    Bound bound(Make<Statistiques>);
+    auto& form = static_cast<Statistiques&>(*bound.form);
+    auto* far = bound.bench.windows.WidgetOf(form.Text11(88));
+    auto* near = qobject_cast<QLineEdit*>(bound.bench.windows.WidgetOf(form.Text11(1)));
+    QCOMPARE(far->accessibleName(), QStringLiteral("50 MHz, Sup a 1000 Km"));
+    QCOMPARE(near->accessibleName(), QStringLiteral("144 MHz, Inf a 100 Km"));
+    QVERIFY(near->alignment().testFlag(Qt::AlignRight));
+    // To the left of the first stand the titles.
+    auto* first = bound.bench.windows.WidgetOf(form.Text11(78));
+    bound.bench.programme.Recoit([&] { form.Text11(78).SetFocus(); });
+    QTest::keyClick(first, Qt::Key_Left);
+    QCOMPARE(bound.bench.programme.Focus(), &form.Text11(78));
+  }
+
+  void ALabelHeadsTheColumnsOfItsList() {
+    Bound bound(Make<Affiche_Dpt>);
+    auto& form = static_cast<Affiche_Dpt&>(*bound.form);
+    form.Label1.SetCaption("   Un    Deux mots");
+    QCOMPARE(bound.bench.windows.WidgetOf(form.QSO_DU_Dep)->property("titres").toString(),
+             QStringLiteral("Un@4;Deux mots@7"));
+  }
+
   void AWidgetOfAnotherKindIsAProblem() {
     ControlBench<ArrayForm> bench;
     bench.Add(new QComboBox, "Date_A");
