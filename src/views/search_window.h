@@ -46,7 +46,7 @@ class Recherche_Indicatif : public Form {
   bool Parcourt(int option, std::string& texte, const Preneur& prend);
   void Imprimer_Click();
 
-  // The texts of the last search, for the printing.
+  // The texts of the last search, for the printing, which passes by the department's.
   std::string Dernier_Indicatif, Derniere_Date, Dernier_Dpt, Dernier_Locator;
 };
 

@@ -220,9 +220,9 @@ class BinderTest : public QObject {
     Bound bound(Make<Statistiques>);
     auto& form = static_cast<Statistiques&>(*bound.form);
     auto* far = bound.bench.windows.WidgetOf(form.Text11(88));
-    auto* near = qobject_cast<QLineEdit*>(bound.bench.windows.WidgetOf(form.Text11(1)));
+    auto* near = qobject_cast<QLineEdit*>(bound.bench.windows.WidgetOf(form.Text11(13)));
     QCOMPARE(far->accessibleName(), QStringLiteral("50 MHz, Sup a 1000 Km"));
-    QCOMPARE(near->accessibleName(), QStringLiteral("144 MHz, Inf a 100 Km"));
+    QCOMPARE(near->accessibleName(), QStringLiteral("432 MHz, 100 a 200 Km"));
     QVERIFY(near->alignment().testFlag(Qt::AlignRight));
     // To the left of the first stand the titles.
     auto* first = bound.bench.windows.WidgetOf(form.Text11(78));

@@ -50,7 +50,7 @@ void MeasureViews(std::vector<Row>& rows) {
   GiveAllAnActivity(run);
   run.Run().Recoit([&] { run.Run().Fenetre<Statistique_DFCF>().Show(); });
   auto& activations = run.Run().Fenetre<Statistique_DFCF>();
-  Measure(rows, "Activations, a list of half the log",
+  Measure(rows, "Activations, half the log listed",
           {{}, [&] { run.Run().Recoit([&] { activations.Affiche_Contact.UserClick(); }); }}, 200);
 
   run.Run().Recoit([&] { run.Run().Fenetre<Recherche_Indicatif>(); });
