@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -15,6 +16,7 @@
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "maintenance/backup_settings_window.h"
+#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_messages.h"
 #include "platform/qt/qt_text.h"
@@ -381,6 +383,18 @@ class QtWindowsTest : public QObject {
     QEvent::Type kind_;
     int& count_;
   };
+
+  void TheClipboardTellsWhatItCannotGive() {
+    WindowsBench bench;
+    QtClipboard clipboard(bench.messages);
+    clipboard.SetText("d\xE9j\xE0\r\nvu");
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("déjà\nvu"));
+    QCOMPARE(clipboard.Text(), std::string("d\xE9j\xE0\r\nvu"));
+    QVERIFY(bench.messages.boxes.empty());
+    QApplication::clipboard()->setText(QStringLiteral("aф"));
+    QCOMPARE(clipboard.Text(), std::string("a?"));
+    QCOMPARE(bench.messages.boxes.size(), std::size_t{1});
+  }
 };
 
 const InSuite<QtWindowsTest> kQtWindowsTest;

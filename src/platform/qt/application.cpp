@@ -43,9 +43,10 @@ Application::Application(const ProgramFolder& folder, const QString& settings_fo
       dialogs(windows, messages),
       settings(QDir(settings_folder).filePath(QStringLiteral("Vorelio.ini"))),
       disk(folder.text, folder.bytes),
-      printer(windows),
+      printer(windows, messages),
       pages(windows),
       sounds(windows),
+      clipboard(messages),
       directory_(folder.text) {
   windows.Furnish = [this](const Form& form, QWidget& window) { return extras.Furnish(form, window); };
 }

@@ -2,7 +2,9 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <utility>
 
+#include "core/text.h"
 #include "platform/qt/qt_text.h"
 
 namespace vorelio {
@@ -12,7 +14,12 @@ namespace vorelio {
 std::string QtClipboard::Text() {
   QString text = QGuiApplication::clipboard()->text();
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-  return FromQt(text.replace(u'\n', QStringLiteral("\r\n")));
+  text.replace(u'\n', QStringLiteral("\r\n"));
+  if (auto exact = FromQtExact(text)) return *std::move(exact);
+  messages_.Show(
+      "Le presse-papiers comporte des caractères que Vorelio ne peut pas noter ;\r\n"
+      "ils sont remplacés par « ? »."_t);
+  return FromQt(text);
 }
 
 void QtClipboard::SetText(const std::string& text) {
