@@ -221,6 +221,18 @@ class ListTest : public QObject {
     QVERIFY2(qAbs(in_title - in_row) <= 2, qPrintable(QStringLiteral("%1 over %2").arg(in_title).arg(in_row)));
     QApplication::setFont(before);
   }
+
+  void ARowThatAClickTakesAwayDragsNoOther() {
+    ListBench bench;
+    ListBox& list = bench.form().Liste;
+    list.Click = [&list] { list.RemoveItem(list.ListIndex()); };
+    const QPoint place = bench.Place(bench.view, 2);
+    QTest::mousePress(bench.view->viewport(), Qt::LeftButton, {}, place);
+    QMouseEvent move(QEvent::MouseMove, place + QPoint(3, 2), place + QPoint(3, 2), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(bench.view->viewport(), &move);
+    QTest::mouseRelease(bench.view->viewport(), Qt::LeftButton, {}, place);
+    QCOMPARE(list.Count(), 9);
+  }
 };
 
 const InSuite<ListTest> kListTest;

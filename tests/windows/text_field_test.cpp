@@ -292,6 +292,24 @@ class TextFieldTest : public QObject {
     QCOMPARE(page->toPlainText(), QStringLiteral("une\ndeux"));
     QCOMPARE(bench.gate.notices.size(), 1);
   }
+
+  void PagesTakeBackWhatWasTyped() {
+    ControlBench<PageForm> bench;
+    auto* page = bench.Add(new QPlainTextEdit, "Page");
+    bench.Bind();
+    page->setFocus();
+    TextField& field = bench.form().Page;
+    // The fixed blank of a French text isn't an ordinary one.
+    field.SetText("une\r\nvoici\xA0: deux");
+    field.SetCaret(3);
+    QTest::keyClicks(page, QStringLiteral("xy"));
+    QCOMPARE(field.Text(), "unexy\r\nvoici\xA0: deux");
+    QTest::keyClick(page, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(field.Text(), "une\r\nvoici\xA0: deux");
+    // Selected from a menu, with no key and no click on the text.
+    page->selectAll();
+    QTRY_COMPARE(field.SelectionLength(), static_cast<int>(field.Text().size()));
+  }
 };
 
 const InSuite<TextFieldTest> kTextFieldTest;

@@ -267,8 +267,8 @@ QWidget* LoadWindow(const QString& form, QString& problem) {
   QWidget* window = loader.load(&file);
   if (!window) problem = loader.errorString();
   // A .ui file can put labels into a status bar, but not say where.
-  if (auto* main = qobject_cast<QMainWindow*>(window))
-    for (QLabel* label : main->statusBar()->findChildren<QLabel*>()) main->statusBar()->addPermanentWidget(label);
+  if (auto* bar = window ? window->findChild<QStatusBar*>() : nullptr)
+    for (QLabel* label : bar->findChildren<QLabel*>()) bar->addPermanentWidget(label);
   return window;
 }
 

@@ -14,6 +14,10 @@ MultiLineView::MultiLineView(TextField& field, QPlainTextEdit& edit, Gate& gate)
   edit.setTabChangesFocus(true);
   edit.viewport()->installEventFilter(this);
   connect(&edit, &QPlainTextEdit::textChanged, this, [this] { TakeEdit(); });
+  // However the caret or the selection moves, by key, mouse or menu, the model follows.
+  const auto moved = [this] { TellCaret(); };
+  connect(&edit, &QPlainTextEdit::cursorPositionChanged, this, moved, Qt::QueuedConnection);
+  connect(&edit, &QPlainTextEdit::selectionChanged, this, moved, Qt::QueuedConnection);
   ShowText();
 }
 
@@ -22,8 +26,13 @@ void MultiLineView::Show(Property property) {
   if (property == Property::Text || property == Property::Caret) ShowCaret();
 }
 
+QString MultiLineView::Shown() const {
+  // The plain text would have blanks in place of the fixed ones.
+  return shown_.document()->toRawText().replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
+
 int MultiLineView::ToModel(int place) const {
-  const QString text = shown_.toPlainText().left(place);
+  const QString text = Shown().left(place);
   return place + static_cast<int>(text.count(u'\n'));
 }
 
@@ -37,11 +46,17 @@ void MultiLineView::ShowText() {
   const QScopedValueRollback<bool> showing(showing_, true);
   shown_.setReadOnly(control_.ReadOnly());
   const QString text = ToQt(control_.Text()).remove(u'\r');
-  if (text == shown_.toPlainText()) return;
-  // An edit block, unlike setPlainText, leaves the widget's undo what came before.
-  QTextCursor all(shown_.document());
-  all.select(QTextCursor::Document);
-  all.insertText(text);
+  const QString before = Shown();
+  if (text == before) return;
+  // What is the same at both ends stays, so that undo takes back what was done, and the lines in sight stay in place.
+  const auto shorter = std::min(text.size(), before.size());
+  const auto head = std::mismatch(text.begin(), text.begin() + shorter, before.begin()).first - text.begin();
+  qsizetype tail = 0;
+  while (tail < shorter - head && text[text.size() - 1 - tail] == before[before.size() - 1 - tail]) ++tail;
+  QTextCursor changed(shown_.document());
+  changed.setPosition(static_cast<int>(head));
+  changed.setPosition(static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
+  changed.insertText(text.mid(head, text.size() - head - tail));
 }
 
 void MultiLineView::ShowCaret() {
@@ -64,7 +79,7 @@ void MultiLineView::TellCaret() {
 
 void MultiLineView::TakeEdit() {
   if (showing_ || !Bound()) return;
-  const QString text = shown_.toPlainText();
+  const QString text = Shown();
   if (const auto bytes = FromQtExact(QString(text).replace(u'\n', QStringLiteral("\r\n")))) {
     const int caret = ToModel(shown_.textCursor().position());
     Deliver([&] { control_.UserText(*bytes, caret); });
@@ -96,9 +111,6 @@ bool MultiLineView::eventFilter(QObject* watched, QEvent* event) {
       QCoreApplication::sendEvent(&shown_, &*rest);
       return true;
     }
-  } else if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease) {
-    QMetaObject::invokeMethod(
-        this, [this] { TellCaret(); }, Qt::QueuedConnection);
   }
   return ViewOf::eventFilter(watched, event);
 }

@@ -18,6 +18,8 @@ class MultiLineView : public ViewOf<TextField, QPlainTextEdit> {
   void Show(Property property) override;
 
  private:
+  /// The widget's text, its lines parted by LF.
+  QString Shown() const;
   void ShowText();
   void ShowCaret();
   void TellCaret();

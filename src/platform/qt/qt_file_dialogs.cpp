@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QRegularExpression>
 
 #include "core/text.h"
 #include "platform/qt/qt_text.h"
@@ -49,7 +51,16 @@ QString QtFileDialogs::ExecuteOpen(const QString& folder, const QString& filter)
 }
 
 QString QtFileDialogs::ExecuteSave(const QString& path, const QString& filter) {
-  return QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Enregistrer sous"), path, filter);
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Enregistrer sous"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setNameFilters(filter.split(QStringLiteral(";;")));
+  // A name without an ending gets the one under which the file is looked for later.
+  static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)"));
+  dialog.setDefaultSuffix(ending.match(filter).captured(1));
+  const QFileInfo proposed(path);
+  dialog.setDirectory(proposed.path());
+  if (!proposed.isDir()) dialog.selectFile(proposed.fileName());
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 }  // namespace vorelio

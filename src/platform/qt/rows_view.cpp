@@ -179,11 +179,13 @@ void RowsView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const int row = RowAt(event->pos());
   Select(row);
+  // A click can take its row out of the list: the one that moved up under the mouse wasn't meant.
+  dragging_ = row >= 0 && currentIndex().row() == row;
   if (row >= 0 && InTick(event->pos()) && OnTick) OnTick(row);
 }
 
 void RowsView::mouseMoveEvent(QMouseEvent* event) {
-  if (!event->buttons().testFlag(Qt::LeftButton)) return;
+  if (!dragging_ || !event->buttons().testFlag(Qt::LeftButton)) return;
   const int row = RowAt(event->pos());
   if (row >= 0 && row != currentIndex().row()) Select(row);
 }

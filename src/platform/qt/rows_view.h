@@ -55,6 +55,7 @@ class RowsView : public QListView {
 
   Titles* titles_ = nullptr;
   int widest_ = 0;
+  bool dragging_ = false;  ///< The row that was pressed is still the selected one.
 };
 
 }  // namespace vorelio

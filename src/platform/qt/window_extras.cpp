@@ -39,7 +39,7 @@ class PlaceKeeper : public QObject {
 
 bool WindowExtras::Furnish(const Form& form, QWidget& window) {
   appearance_.Dress(window);
-  if (auto* main = qobject_cast<QMainWindow*>(&window)) AddViewMenu(*main);
+  if (auto* main = qobject_cast<QMainWindow*>(&window); main && form.Main()) AddViewMenu(*main);
   return form.Main() && Restore(ToQt(form.Name()), window);
 }
 
