@@ -13,6 +13,7 @@
 #include "maintenance/restore_activities_window.h"
 #include "printing/print_activity_window.h"
 #include "printing/print_log_window.h"
+#include "printing/select_qso_window.h"
 #include "tallies/add_prefix_window.h"
 #include "tallies/department_tally.h"
 #include "tallies/directory_window.h"
@@ -67,6 +68,7 @@ void DDFM::Relie_Menus() {
   Mnu_Stat_Prefixe.Click = [this] { programme_.Fenetre<Statistique_Prefixe>().Show(); };
   Mnu_Imprime_Tout.Click = [this] { Mnu_Imprime_Tout_Click(); };
   Mnu_Print_Activite.Click = [this] { programme_.Fenetre<Print_Activite>().Show(); };
+  Mnu_Print_QSL.Click = [this] { programme_.Fenetre<Select_QSO>().Show(); };
   Mnu_Mode_Emploi.Click = [this] { Mnu_Mode_Emploi_Click(); };
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
   Mnu_A_Propos.Click = [this] {

@@ -20,8 +20,10 @@
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "platform/qt/qt_text.h"
+#include "printing/labels_window.h"
 #include "printing/print_activity_window.h"
 #include "printing/print_log_window.h"
+#include "printing/select_qso_window.h"
 #include "qsl/multi_qsl_window.h"
 #include "qsl/qsl_window.h"
 #include "tallies/add_prefix_window.h"
@@ -68,7 +70,9 @@ constexpr Maker kForms[] = {Make<DDFM>,
                             Make<Export_Adif>,
                             Make<Restoration_Activite>,
                             Make<QSL>,
-                            Make<Multi_QSL>};
+                            Make<Multi_QSL>,
+                            Make<Select_QSO>,
+                            Make<Etiquettes>};
 
 /// A form with its window, without its being loaded.
 struct Bound {

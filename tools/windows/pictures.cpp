@@ -23,8 +23,10 @@
 #include "maintenance/restore_activities_window.h"
 #include "platform/qt/application.h"
 #include "platform/qt/qt_text.h"
+#include "printing/labels_window.h"
 #include "printing/print_activity_window.h"
 #include "printing/print_log_window.h"
+#include "printing/select_qso_window.h"
 #include "qsl/multi_qsl_window.h"
 #include "qsl/qsl_window.h"
 #include "tallies/add_prefix_window.h"
@@ -192,6 +194,8 @@ class Tour {
     TakeWindow<Restoration_Activite>();
     TakeWindow<Export_Adif>();
     TakeWindow<Exporter_QSO>();
+    TakeWindow<Etiquettes>();
+    TakeLabels();
     TakeWindow<Chargement>();
     TakeWindow<Progression>();
     Do([&] {
@@ -231,6 +235,16 @@ class Tour {
     if (!form) return;
     Take(*form, ToQt(form->Name()));
     Do([form] { form->Hide(); });
+  }
+
+  void TakeLabels() {
+    auto& selection = programme_.Fenetre<Select_QSO>();
+    Do([&] {
+      selection.Show();
+      for (int row = 3; row < 10; ++row) selection.Liste_QSO.UserSelect(row);
+    });
+    Take(selection, QStringLiteral("Select_QSO"));
+    Do([&] { selection.Unload(); });
   }
 
   /// A contact on the way: with a callsign that the log knows.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFontDatabase>
 #include <QToolTip>
 #include <algorithm>
 
@@ -50,10 +51,22 @@ void DressBand(QWidget& band, bool dark) {
   band.setAutoFillBackground(true);
 }
 
+void DressPaper(QWidget& paper) {
+  QPalette palette;
+  palette.setColor(QPalette::Window, Qt::white);
+  palette.setColor(QPalette::WindowText, Qt::black);
+  paper.setPalette(palette);
+  paper.setAutoFillBackground(true);
+  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  fixed.setPointSizeF(QApplication::font().pointSizeF());
+  paper.setFont(fixed);
+}
+
 void DressText(QWidget& widget) {
   const QVariant scale = widget.property("echelle"), bold = widget.property("gras");
   if (scale.isValid() || bold.isValid()) {
-    QFont font = QApplication::font();
+    const QWidget* above = widget.parentWidget();
+    QFont font = above && above->property("papier").toBool() ? above->font() : QApplication::font();
     if (scale.isValid()) font.setPointSizeF(font.pointSizeF() * scale.toDouble());
     font.setBold(bold.toBool());
     widget.setFont(font);
@@ -139,7 +152,10 @@ void Appearance::Dress(QWidget& window) const {
   window.setProperty(kDressed, true);
   const QList<QWidget*> widgets = window.findChildren<QWidget*>();
   for (QWidget* widget : widgets)
-    if (widget->property("bandeau").toBool()) DressBand(*widget, Dark());
+    if (widget->property("bandeau").toBool())
+      DressBand(*widget, Dark());
+    else if (widget->property("papier").toBool())
+      DressPaper(*widget);
   for (QWidget* widget : widgets) {
     DressText(*widget);
     // Qt 6.4 keeps the least width of a combo box over a change of its font, but not over one of the style.

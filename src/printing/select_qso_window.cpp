@@ -1,0 +1,40 @@
+#include "printing/select_qso_window.h"
+
+#include "core/loading_window.h"
+#include "core/log_line.h"
+#include "core/text.h"
+#include "printing/labels_window.h"
+
+namespace vorelio {
+
+namespace {
+
+/// Moves the line just clicked from one list to the other.
+void Deplace(ListBox& de, ListBox& vers) {
+  vers.AddItem(de.Text());
+  de.RemoveItem(de.ListIndex());
+}
+
+}  // namespace
+
+Select_QSO::Select_QSO(Programme& programme) : Form(programme, "Select_QSO", "Selection des QSO a imprimer") {
+  Liste_QSO.Click = [this] { Deplace(Liste_QSO, Liste_Imprime); };
+  Liste_Imprime.Click = [this] { Deplace(Liste_Imprime, Liste_QSO); };
+  Impression.Click = [this] { programme_.Fenetre<Etiquettes>().Show(); };
+}
+
+void Select_QSO::Form_Load() {
+  Centre();
+  auto& chargement = programme_.Fenetre<Chargement>();
+  chargement.Show();
+  Liste_QSO.ClearItems();
+  const std::string log = programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif));
+  int numero = 1;
+  for (Lecteur_Lignes lignes(log); !lignes.Fini(); ++numero) {
+    Liste_QSO.AddItem(Colonne_Numero(numero).append(lignes.Suivante()));
+    programme_.Traite_Evenements();
+  }
+  chargement.Hide();
+}
+
+}  // namespace vorelio
