@@ -98,6 +98,7 @@ class DDFM : public Form {
   MenuItem Mnu_Imprime_Tout{*this, "Mnu_Imprime_Tout", "le log"};
   MenuItem Mnu_Print_Activite;
   MenuItem Mnu_Print_QSL{*this, "Mnu_Print_QSL", "des etiquettes pour QSL"};
+  MenuItem Mnu_Notes{*this, "Mnu_Notes", "Notes"};
   MenuItem Mnu_Mode_Emploi, Mnu_Historique, Mnu_A_Propos;
 
   // --- What other windows use ---

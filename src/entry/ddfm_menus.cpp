@@ -10,6 +10,7 @@
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup.h"
 #include "maintenance/backup_settings_window.h"
+#include "maintenance/notes_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "printing/print_activity_window.h"
 #include "printing/print_log_window.h"
@@ -69,6 +70,7 @@ void DDFM::Relie_Menus() {
   Mnu_Imprime_Tout.Click = [this] { Mnu_Imprime_Tout_Click(); };
   Mnu_Print_Activite.Click = [this] { programme_.Fenetre<Print_Activite>().Show(); };
   Mnu_Print_QSL.Click = [this] { programme_.Fenetre<Select_QSO>().Show(); };
+  Mnu_Notes.Click = [this] { programme_.Fenetre<Notes>().Show(); };
   Mnu_Mode_Emploi.Click = [this] { Mnu_Mode_Emploi_Click(); };
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
   Mnu_A_Propos.Click = [this] {

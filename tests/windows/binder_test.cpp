@@ -18,6 +18,7 @@
 #include "exchange/export_adif_window.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup_settings_window.h"
+#include "maintenance/notes_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "platform/qt/qt_text.h"
 #include "printing/labels_window.h"
@@ -72,7 +73,8 @@ constexpr Maker kForms[] = {Make<DDFM>,
                             Make<QSL>,
                             Make<Multi_QSL>,
                             Make<Select_QSO>,
-                            Make<Etiquettes>};
+                            Make<Etiquettes>,
+                            Make<Notes>};
 
 /// A form with its window, without its being loaded.
 struct Bound {

@@ -20,6 +20,7 @@
 #include "exchange/export_adif_window.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup_settings_window.h"
+#include "maintenance/notes_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "platform/qt/application.h"
 #include "platform/qt/qt_text.h"
@@ -196,6 +197,7 @@ class Tour {
     TakeWindow<Exporter_QSO>();
     TakeWindow<Etiquettes>();
     TakeLabels();
+    TakeNotes();
     TakeWindow<Chargement>();
     TakeWindow<Progression>();
     Do([&] {
@@ -245,6 +247,16 @@ class Tour {
     });
     Take(selection, QStringLiteral("Select_QSO"));
     Do([&] { selection.Unload(); });
+  }
+
+  void TakeNotes() {
+    auto& notes = programme_.Fenetre<Notes>();
+    Do([&] {
+      notes.Show();
+      notes.Text1.UserText("Rotor \xE0 graisser avant l'hiver.\r\n\r\nDimanche 9 h : balise sur 144.475 Mhz", 0);
+    });
+    Take(notes, QStringLiteral("Notes"));
+    Do([&] { notes.Hide(); });
   }
 
   /// A contact on the way: with a callsign that the log knows.
