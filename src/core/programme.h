@@ -102,6 +102,8 @@ class Programme {
   /// Leaves the running procedure by `Fin_Programme` if the program has ended.
   void Quitte_Si_Termine() const;
   bool Termine_Deja() const { return termine_; }
+  /// Whether the event that runs now came while another one still waits: for a box, a window, a long procedure.
+  bool En_Attente() const { return profondeur_ > 1; }
   /// Number of the run-time error that ended the program, 0 if none has.
   int Erreur_Fatale() const { return erreur_fatale_; }
 

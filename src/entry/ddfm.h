@@ -66,6 +66,7 @@ class DDFM : public Form {
   Button Recherche{*this, "Recherche", "Chercher QSO"};
   Button Gestion_QSL{*this, "Gestion_QSL", "Gestion QSL"};
   Button Exporter{*this, "Exporter", "Exporter QSO"};
+  Button Command1{*this, "Command1", "Cluster"};
   Label NB_Debug{*this, "NB_Debug"};  ///< The step that a save has reached.
   Label Etat{*this, "Etat"};          ///< Status line: how far an import is, what it has brought.
 

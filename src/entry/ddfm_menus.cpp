@@ -1,3 +1,4 @@
+#include "cluster/cluster_window.h"
 #include "core/log_file.h"
 #include "core/station_form.h"
 #include "core/text.h"
@@ -55,6 +56,7 @@ void DDFM::Relie_Menus() {
   Mnu_Import_CTF.Click = [this] { Importe_CTF(programme_); };
   Mnu_Export_Adif.Click = [this] { programme_.Fenetre<Export_Adif>().Show(); };
   Exporter.Click = [this] { programme_.Fenetre<Exporter_QSO>().Show(); };
+  Command1.Click = [this] { programme_.Fenetre<Cluster>().Show(); };
   Mnu_Quitter.Click = [this] { Unload(); };
   Mnu_Nomenclature.Click = [this] { programme_.Fenetre<Fichier_Nomenclature>().Show(); };
   Mnu_Prefixe.Click = [this] { programme_.Fenetre<Ajout_Prefixe>().Show(); };

@@ -1,6 +1,7 @@
 #include "platform/controls.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/errors.h"
 #include "core/programme.h"
@@ -150,6 +151,17 @@ void ListControl::InsertAt(int index, std::string_view text) {
   Notify(Property::Items);
 }
 
+void ListControl::Merge(std::vector<std::string> texts) {
+  if (texts.empty()) return;
+  const auto old = static_cast<std::ptrdiff_t>(items_.size());
+  // The selected row moves behind the new ones that come before it.
+  if (index_ >= 0)
+    index_ += static_cast<int>(std::lower_bound(texts.begin(), texts.end(), Item(index_)) - texts.begin());
+  items_.insert(items_.end(), std::make_move_iterator(texts.begin()), std::make_move_iterator(texts.end()));
+  std::inplace_merge(items_.begin(), items_.begin() + old, items_.end());
+  Notify(Property::Items);
+}
+
 void ListControl::EraseAt(int index) {
   items_.erase(items_.begin() + index);
   if (index == index_) index_ = -1;
@@ -165,6 +177,15 @@ void ListBox::AddItem(std::string_view text) {
     place = static_cast<int>(std::upper_bound(Items().begin(), Items().end(), text) - Items().begin());
   if (kind_ == Kind::Checked) checked_.insert(checked_.begin() + place, false);
   InsertAt(place, text);
+}
+
+void ListBox::AddItems(std::vector<std::string> texts) {
+  if (kind_ != Kind::Sorted) {
+    for (const std::string& text : texts) AddItem(text);
+    return;
+  }
+  std::stable_sort(texts.begin(), texts.end());
+  Merge(std::move(texts));
 }
 
 void ListBox::RemoveItem(int index) {

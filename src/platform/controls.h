@@ -183,6 +183,8 @@ class ListControl : public Control {
   /// Selects without a click.
   virtual void TakeIndex(int index);
   void InsertAt(int index, std::string_view text);
+  /// Puts sorted rows among the sorted ones that are there, behind equal ones.
+  void Merge(std::vector<std::string> texts);
   void EraseAt(int index);
 
  private:
@@ -200,6 +202,8 @@ class ListBox : public ListControl {
 
   /// Adds a row: at the end, or in a sorted list at its place by the bytes of the text, behind equal ones.
   void AddItem(std::string_view text);
+  /// Adds many rows, each as `AddItem` would, in the time of one sort.
+  void AddItems(std::vector<std::string> texts);
   /// Removes a row; an index outside the list is run-time error 5. The removal of the selected row leaves none
   /// selected; no click.
   void RemoveItem(int index);

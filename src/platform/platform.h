@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/disk.h"
 
@@ -107,6 +108,8 @@ class PrinterService {
 class SerialService {
  public:
   virtual ~SerialService() = default;
+  /// The devices that the system's serial ports are, the first one first.
+  virtual std::vector<std::string> Devices() { return {}; }
   /// Opens the system's first or second port (`number` 1 or 2); `device` names it, or is empty where the system is to
   /// find it. `settings` reads "4800,n,8,1". Error 5: the settings make no sense; 68: there is no such port.
   virtual void Open(int number, const std::string& device, const std::string& settings) = 0;

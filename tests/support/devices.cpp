@@ -80,6 +80,7 @@ std::string SiteRecord::Fetch(const std::string& url, int, const Abandoned& aban
 
 void SoundRecord::Play(const std::string& path, const Abandoned&) {
   played.push_back(path.substr(path.find_last_of("/\\") + 1));
+  if (OnPlay) OnPlay();
 }
 
 bool DocumentRecord::Open(const std::string& path) {

@@ -49,11 +49,13 @@ class WireRecord : public SerialService {
   void Configure(const std::string& settings) override;
   void ClearInput() override {}
   void Write(const std::string& bytes) override;
-  int Pending() override { return 0; }
+  int Pending() override { return slow > 0 ? slow-- : stuck; }
 
   std::string bytes;      ///< What has been written; a test may empty it.
   std::set<int> missing;  ///< Ports that can't be opened.
   bool unplugged = false;
+  int slow = 0;    ///< So many times more the port still holds something.
+  int stuck = 0;   ///< What it never gets rid of.
   int number = 0;  ///< The open port, 0 if none is.
   std::string device, settings;
 };
@@ -77,6 +79,7 @@ class SoundRecord : public SoundService {
   void Play(const std::string& path, const Abandoned& abandoned) override;
 
   std::deque<std::string> played;  ///< File names, without their folder; a test may take them away.
+  std::function<void()> OnPlay;    ///< Runs while a sound is heard.
 };
 
 class ClipboardRecord : public ClipboardService {

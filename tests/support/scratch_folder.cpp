@@ -53,7 +53,7 @@ void ScratchFolder::Remove(std::string_view name) const { fs::remove(File(name))
 void CopyTemplates(const fs::path& folder) {
   for (const auto& entry : fs::directory_iterator(VORELIO_DATA_DIR)) {
     const std::string extension = entry.path().extension().string();
-    if (entry.is_regular_file() && (extension == ".txt" || extension == ".log"))
+    if (entry.is_regular_file() && (extension == ".txt" || extension == ".log" || extension == ".wav"))
       fs::copy_file(entry, folder / entry.path().filename(), fs::copy_options::overwrite_existing);
   }
 }

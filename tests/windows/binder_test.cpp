@@ -9,6 +9,9 @@
 #include <map>
 #include <set>
 
+#include "cluster/cluster_settings_windows.h"
+#include "cluster/cluster_window.h"
+#include "cluster/memory_window.h"
 #include "core/error_window.h"
 #include "core/loading_window.h"
 #include "core/station_form.h"
@@ -74,7 +77,11 @@ constexpr Maker kForms[] = {Make<DDFM>,
                             Make<Multi_QSL>,
                             Make<Select_QSO>,
                             Make<Etiquettes>,
-                            Make<Notes>};
+                            Make<Notes>,
+                            Make<Cluster>,
+                            Make<Memoire_CL>,
+                            Make<Adresse_Cluster>,
+                            Make<Ports_Serie>};
 
 /// A form with its window, without its being loaded.
 struct Bound {
@@ -176,12 +183,12 @@ class BinderTest : public QObject {
   void TheTabChainIsTheEntryChain() {
     Bound bound(Make<DDFM>);
     auto& main = static_cast<DDFM&>(*bound.form);
-    const Control* chain[] = {&main.Bande_A,  &main.Indicatif_A, &main.Depart_A,   &main.Locator_A,   &main.Mode_A,
-                              &main.Activ_A,  &main.Date_A,      &main.Debut_A,    &main.Fin_A,       &main.RSTE_A,
-                              &main.RSTR_A,   &main.Prenom_A,    &main.QTH_A,      &main.Remarques_A, &main.Enregistrer,
-                              &main.Annuler,  &main.Editer,      &main.Effacer,    &main.Recherche,   &main.Gestion_QSL,
-                              &main.Exporter, &main.Option1(1),  &main.Option1(0), &main.Bande_DDFM,  &main.Carre_DDFM,
-                              &main.Liste_QSO};
+    const Control* chain[] = {
+        &main.Bande_A,    &main.Indicatif_A, &main.Depart_A,    &main.Locator_A, &main.Mode_A,     &main.Activ_A,
+        &main.Date_A,     &main.Debut_A,     &main.Fin_A,       &main.RSTE_A,    &main.RSTR_A,     &main.Prenom_A,
+        &main.QTH_A,      &main.Remarques_A, &main.Enregistrer, &main.Annuler,   &main.Editer,     &main.Effacer,
+        &main.Recherche,  &main.Gestion_QSL, &main.Exporter,    &main.Command1,  &main.Option1(1), &main.Option1(0),
+        &main.Bande_DDFM, &main.Carre_DDFM,  &main.Liste_QSO};
     QStringList expected, found;
     for (const Control* control : chain) expected << bound.bench.windows.WidgetOf(*control)->objectName();
     const QWidget* first = bound.bench.windows.WidgetOf(main.Bande_A);

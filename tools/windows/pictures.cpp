@@ -9,6 +9,9 @@
 #include <functional>
 #include <string>
 
+#include "cluster/cluster_settings_windows.h"
+#include "cluster/cluster_window.h"
+#include "cluster/memory_window.h"
 #include "core/bands.h"
 #include "core/error_window.h"
 #include "core/loading_window.h"
@@ -198,6 +201,7 @@ class Tour {
     TakeWindow<Etiquettes>();
     TakeLabels();
     TakeNotes();
+    TakeCluster();
     TakeWindow<Chargement>();
     TakeWindow<Progression>();
     Do([&] {
@@ -257,6 +261,41 @@ class Tour {
     });
     Take(notes, QStringLiteral("Notes"));
     Do([&] { notes.Hide(); });
+  }
+
+  /// The cluster with spots, some of them kept.
+  void TakeCluster() {
+    Do([this] { programme_.Fenetre<Cluster>().Show(); });
+    auto& cluster = programme_.Fenetre<Cluster>();
+    Take(cluster, QStringLiteral("Cluster-vide"));
+    Do([&] {
+      for (int n = 0; n < 40; ++n) cluster.Liste_Stations.AddItem(Ligne_De_Liste(MadeUpSpot(n), Tri::QTR));
+      cluster.QTR.SetCaption("12:34 TU");
+      cluster.Site.SetCaption("http://cluster.example");
+      cluster.Liste_Stations.SetListIndex(39);
+    });
+    Take(cluster, QStringLiteral("Cluster"));
+    Do([&] {
+      cluster.Memoriser.UserClick();
+      cluster.Voir_Mem.UserClick();
+    });
+    Take(programme_.Fenetre<Memoire_CL>(), QStringLiteral("Memoire_CL"));
+    TakeWindow<Adresse_Cluster>();
+    TakeWindow<Ports_Serie>();
+    Do([&] { cluster.Unload(); });
+  }
+
+  static Spot MadeUpSpot(int n) {
+    static constexpr std::array kCalls = {"F9AAA", "VK9ZZZ", "DL9ZZZ/P", "TM9XYZ", "JA9QQQ"};
+    static constexpr std::array kFrequencies = {"14195.0", "7040.5", "144300.0", "21025.0", "3798.0"};
+    static constexpr std::array kWords = {"CQ CQ UP 5", "TNX QSO 73", "IN39VU<TR>JN33BB", "", "QSL VIA BUREAU"};
+    Spot spot;
+    spot.Date = "12-MAY " + Deux_Chiffres(12) + Deux_Chiffres(n % 60) + "Z ";
+    spot.DX = Complete(Turn(kCalls, n), 12);
+    spot.QRG = Complete_Gauche(Turn(kFrequencies, n), 8);
+    spot.Spotter = Complete(Turn(kCalls, n + 2), 11);
+    spot.Remarques = Turn(kWords, n);
+    return spot;
   }
 
   /// A contact on the way: with a callsign that the log knows.

@@ -50,7 +50,18 @@ void CaptionLabel::SetPlate(bool plate) {
   update();
 }
 
+void CaptionLabel::PaintHeading() {
+  for (const QString& heading : property("titres").toString().split(u'|')) {
+    const std::vector<ColumnTitle> titles = ParseTitles(heading);
+    QStringList words;
+    for (const ColumnTitle& title : titles) words << title.words;
+    if (words.join(u' ') == text().simplified()) return rows_->PaintTitles(*this, titles);
+  }
+  rows_->PaintTitles(*this, {{text(), 1}});
+}
+
 void CaptionLabel::paintEvent(QPaintEvent* event) {
+  if (rows_) return PaintHeading();
   if (plate_) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -18,11 +18,18 @@ class CaptionLabel : public QLabel {
 
   void SetPlate(bool plate);
 
+  /// Makes the label the strip of titles of a list. Its words stand where its property "titres" says, which has the
+  /// titles of each heading that it may bear, with "|" between.
+  void SetHeadingOf(const RowsView& rows) { rows_ = &rows; }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PaintHeading();
+
   bool plate_ = false;
+  const RowsView* rows_ = nullptr;
 };
 
 /// Shows the words of a label. One with the property "sur_colonnes" ("4;7;...") heads the list that is its buddy: its

@@ -9,6 +9,13 @@
 
 namespace vorelio {
 
+namespace {
+
+/// Of a row that is longer, as a page from the web may have them, no more is laid out.
+constexpr std::size_t kLongestRow = 1000;
+
+}  // namespace
+
 // --- RowsModel ------------------------------------------------------------------------------------------------------
 
 int RowsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : told_; }
@@ -16,7 +23,8 @@ int RowsModel::rowCount(const QModelIndex& parent) const { return parent.isValid
 // The list may have changed since it was told last: a row that has gone is shown empty until then.
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
   if (!list_ || !index.isValid()) return {};
-  if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return ToQt(list_->Item(index.row()));
+  if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
+    return ToQt(std::string_view(list_->Item(index.row())).substr(0, kLongestRow));
   if (role == Qt::CheckStateRole && list_->Genre() == ListBox::Kind::Checked)
     return list_->Checked(index.row()) ? Qt::Checked : Qt::Unchecked;
   return {};
@@ -28,7 +36,7 @@ int RowsModel::Reset() {
   endResetModel();
   std::size_t widest = 0;
   if (list_)
-    for (const std::string& item : list_->Items()) widest = std::max(widest, item.size());
+    for (const std::string& item : list_->Items()) widest = std::max(widest, std::min(item.size(), kLongestRow));
   return static_cast<int>(widest);
 }
 

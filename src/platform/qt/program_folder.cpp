@@ -61,6 +61,12 @@ const QStringList& TemplateFiles() {
   return names;
 }
 
+const QStringList& SoundFiles() {
+  static const QStringList names = {QStringLiteral("ringout.wav"), QStringLiteral("ringin.wav"),
+                                    QStringLiteral("tada.wav")};
+  return names;
+}
+
 std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QString& data_home, QString& problem) {
   const QDir own(program);
   if (HoldsTemplates(own) && QFileInfo(own.path()).isWritable()) return Described(own);
@@ -75,9 +81,9 @@ std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QSt
   if (HoldsTemplates(shared)) {
     if (!Seed(shared, folder, problem)) return std::nullopt;
   } else if (HoldsTemplates(own)) {
-    for (const QString& name : TemplateFiles()) {
+    for (const QString& name : TemplateFiles() + SoundFiles()) {
       const QString target = folder.filePath(name);
-      if (QFile::exists(target) || QFile::copy(own.filePath(name), target)) continue;
+      if (QFile::exists(target) || !own.exists(name) || QFile::copy(own.filePath(name), target)) continue;
       problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
       return std::nullopt;
     }

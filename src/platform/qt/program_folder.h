@@ -25,4 +25,7 @@ std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QSt
 /// The names of the files without which no station can be made.
 const QStringList& TemplateFiles();
 
+/// The names of the sounds; without them the program is silent.
+const QStringList& SoundFiles();
+
 }  // namespace vorelio

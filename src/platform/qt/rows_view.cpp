@@ -8,6 +8,8 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "platform/qt/caption_views.h"
+
 namespace vorelio {
 
 namespace {
@@ -51,46 +53,32 @@ class RowPainter : public QStyledItemDelegate {
 
 }  // namespace
 
+std::vector<ColumnTitle> ParseTitles(const QString& titles) {
+  std::vector<ColumnTitle> parsed;
+  for (const QString& title : titles.split(u';')) {
+    const auto place = title.lastIndexOf(u'@');
+    if (place > 0) parsed.push_back({title.left(place), title.mid(place + 1).toInt()});
+  }
+  return parsed;
+}
+
 /// The titles, each over its column, moving with the rows from side to side.
 class RowsView::Titles : public QWidget {
  public:
-  explicit Titles(RowsView& rows) : QWidget(&rows), rows_(rows) {
+  explicit Titles(RowsView& rows)
+      : QWidget(&rows), rows_(rows), titles_(ParseTitles(rows.property("titres").toString())) {
     setObjectName(QStringLiteral("titre_colonnes"));
-    for (const QString& title : rows.property("titres").toString().split(u';')) {
-      const auto place = title.lastIndexOf(u'@');
-      if (place > 0) titles_.push_back({title.left(place), title.mid(place + 1).toInt()});
-    }
     QStringList words;
     for (const auto& [title, column] : titles_) words << title;
     setAccessibleName(words.join(QStringLiteral(", ")));
-    connect(rows.horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { update(); });
   }
-
-  QSize sizeHint() const override { return {0, fontMetrics().height() + 10}; }
 
  protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    painter.fillRect(rect(), palette().brush(QPalette::Button));
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawLine(rect().bottomLeft(), rect().bottomRight());
-    painter.setPen(palette().color(QPalette::ButtonText));
-    const QFontMetricsF metrics(rows_.font());
-    const qreal left = rows_.TextStart() - rows_.horizontalScrollBar()->value();
-    for (const auto& [title, column] : titles_) {
-      const qreal x = left + metrics.horizontalAdvance(QString(column - 1, u' '));
-      painter.drawText(QRectF(x, 0, width(), height()), Qt::AlignVCenter | Qt::AlignLeft, title);
-    }
-  }
+  void paintEvent(QPaintEvent*) override { rows_.PaintTitles(*this, titles_); }
 
  private:
-  struct Title {
-    QString words;
-    int column;
-  };
-
   RowsView& rows_;
-  std::vector<Title> titles_;
+  std::vector<ColumnTitle> titles_;
 };
 
 RowsView::RowsView(QWidget* parent) : QListView(parent) {
@@ -132,15 +120,14 @@ void RowsView::Arrange() {
   fixed.setStyleHint(QFont::TypeWriter);
   fixed.setFixedPitch(true);
   if (fixed != font()) setFont(fixed);
-  if (!titles_ && property("titres").isValid()) titles_ = new Titles(*this);
-  if (titles_) {
+  if (!strip_) strip_ = MakeStrip();
+  if (strip_) {
     QFont bold = fixed;
     bold.setBold(true);
-    titles_->setFont(bold);
-    setViewportMargins(0, titles_->sizeHint().height(), 0, 0);
-    const QRect inside = contentsRect();
-    titles_->setGeometry(inside.left(), inside.top(), inside.width(), titles_->sizeHint().height());
-    titles_->show();
+    strip_->setFont(bold);
+    PlaceStrip();
+    setViewportMargins(0, strip_->height(), 0, 0);
+    strip_->show();
   }
   horizontalScrollBar()->setSingleStep(2 * fontMetrics().averageCharWidth());
   scheduleDelayedItemsLayout();
@@ -151,9 +138,43 @@ void RowsView::resizeEvent(QResizeEvent* event) {
   const bool at_end = verticalScrollBar()->value() == verticalScrollBar()->maximum();
   QListView::resizeEvent(event);
   if (at_end) scrollToBottom();
-  if (!titles_) return;
+  if (strip_) PlaceStrip();
+}
+
+QWidget* RowsView::MakeStrip() {
+  QWidget* strip = nullptr;
+  const QString heading = property("entete").toString();
+  auto* named = heading.isEmpty() ? nullptr : window()->findChild<QLabel*>(heading);
+  if (auto* label = dynamic_cast<CaptionLabel*>(named)) {
+    label->setParent(this);
+    label->SetHeadingOf(*this);
+    strip = label;
+  } else if (property("titres").isValid()) {
+    strip = new Titles(*this);
+  }
+  if (strip) connect(horizontalScrollBar(), &QScrollBar::valueChanged, strip, qOverload<>(&QWidget::update));
+  return strip;
+}
+
+void RowsView::PlaceStrip() {
+  constexpr int kAir = 10;
   const QRect inside = contentsRect();
-  titles_->setGeometry(inside.left(), inside.top(), inside.width(), titles_->sizeHint().height());
+  strip_->setGeometry(inside.left(), inside.top(), inside.width(), strip_->fontMetrics().height() + kAir);
+}
+
+void RowsView::PaintTitles(QWidget& strip, const std::vector<ColumnTitle>& titles) const {
+  QPainter painter(&strip);
+  painter.fillRect(strip.rect(), palette().brush(QPalette::Button));
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawLine(strip.rect().bottomLeft(), strip.rect().bottomRight());
+  painter.setPen(palette().color(QPalette::ButtonText));
+  painter.setFont(strip.font());
+  const QFontMetricsF metrics(font());
+  const qreal left = TextStart() - horizontalScrollBar()->value();
+  for (const auto& [words, column] : titles) {
+    const qreal x = left + metrics.horizontalAdvance(QString(column - 1, u' '));
+    painter.drawText(QRectF(x, 0, strip.width(), strip.height()), Qt::AlignVCenter | Qt::AlignLeft, words);
+  }
 }
 
 // --- The user -------------------------------------------------------------------------------------------------------

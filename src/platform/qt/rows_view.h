@@ -6,10 +6,22 @@
 
 namespace vorelio {
 
+class CaptionLabel;
+
+/// A word over the column (from 1) that it is the title of.
+struct ColumnTitle {
+  QString words;
+  int column;
+};
+
+/// The titles of "N°@4;Date@7;...".
+std::vector<ColumnTitle> ParseTitles(const QString& titles);
+
 /// A list of many rows of one height in a fixed-pitch font, with column titles above it that stay over their columns.
 /// It selects nothing by itself: what the user does is told, and what is selected is shown.
 ///
-/// The titles come from the widget's property "titres": "N°@4;Date@7;...", each with its 1-based column.
+/// The titles come from the widget's property "titres". Where the logic has a label for them, the property "entete"
+/// names it: the label then stands there, with its words over the columns.
 class RowsView : public QListView {
  public:
   explicit RowsView(QWidget* parent = nullptr);
@@ -30,6 +42,9 @@ class RowsView : public QListView {
   /// Takes over font and titles, after either has changed.
   void Arrange();
 
+  /// Paints titles over their columns into the strip above the rows.
+  void PaintTitles(QWidget& strip, const std::vector<ColumnTitle>& titles) const;
+
   /// Left of the text of a row, in pixels from the row's left edge.
   static constexpr int kMargin = 8;
 
@@ -48,12 +63,14 @@ class RowsView : public QListView {
  private:
   class Titles;
 
+  QWidget* MakeStrip();
+  void PlaceStrip();
   int RowAt(QPoint place) const;
   bool InTick(QPoint place) const;
   void Select(int row);
   int Page() const;
 
-  Titles* titles_ = nullptr;
+  QWidget* strip_ = nullptr;
   int widest_ = 0;
   bool dragging_ = false;  ///< The row that was pressed is still the selected one.
 };
