@@ -176,7 +176,7 @@ TEST_F(ClusterWindowTest, TheModelsThatAreNotOffered) {
     form.Emetteur.SetListIndex(5);
     form.Envoie_Qrg();
   });
-  EXPECT_EQ(devices.serial.bytes, std::string("\xFE\xFE\x58\0\x05&H0&H20&H25&H80&H0\xFD\xFE\xFE\x58\0\0\x01\xFD", 30));
+  EXPECT_EQ(devices.serial.bytes, std::string("\xFE\xFE\x58\0\x05&H0&H20&H25&H80&H0\xFD\xFE\xFE\x58\0\0\x01\xFD", 31));
 }
 
 // As much as the site's largest page could ever hold, unsorted.

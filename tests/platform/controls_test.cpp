@@ -184,6 +184,24 @@ TEST_F(Controls, ReadOnlyTakesFocusAndPasteButNoKeys) {
 
 // --- Lists ----------------------------------------------------------------------------------------------------------
 
+TEST_F(Controls, ManyRowsAtOnceAreAsOneByOne) {
+  const Lines first = {"b", "d"}, more = {"e", "\xE9", "a", "d", "Z", "b"};
+  for (const int selected : {-1, 0, 1}) {
+    page.sorted.ClearItems();
+    page.sorted.AddItems(first);
+    page.sorted.SetListIndex(selected);
+    for (const std::string& row : more) page.sorted.AddItem(row);
+    const Lines rows = page.sorted.Items();
+    const int index = page.sorted.ListIndex();
+    page.sorted.ClearItems();
+    page.sorted.AddItems(first);
+    page.sorted.SetListIndex(selected);
+    page.sorted.AddItems(more);
+    EXPECT_EQ(page.sorted.Items(), rows);
+    EXPECT_EQ(page.sorted.ListIndex(), index);
+  }
+}
+
 TEST_F(Controls, SortedListGoesByBytesEqualOnesByArrival) {
   for (const char* row : {"b", "a", "\xE9", "Z", "a ", "b", " z"}) page.sorted.AddItem(row);
   EXPECT_EQ(page.sorted.Items(), (Lines{" z", "Z", "a", "a ", "b", "b", "\xE9"}));

@@ -237,10 +237,14 @@ class DevicesTest : public QObject {
     port.Open(1, cable.device, "4800,n,8,1");
     QElapsedTimer time;
     time.start();
-    QCOMPARE(ErrorOf([&] {
-               for (int i = 0; i < 1000; ++i) port.Write(std::string(500, 'x'));
-             }),
-             57);
+    // The system moves some of it on behind the first writes.
+    for (int round = 0; round < 3; ++round) {
+      QCOMPARE(ErrorOf([&] {
+                 for (int i = 0; i < 1000; ++i) port.Write(std::string(500, 'x'));
+               }),
+               57);
+      QTest::qSleep(50);
+    }
     QVERIFY(port.Pending() > 0);
     port.Close();
     QVERIFY(time.elapsed() < 3000);

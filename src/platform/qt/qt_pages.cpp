@@ -24,16 +24,15 @@ std::string QtPages::Fetch(const std::string& url, int timeout_s, const Abandone
   request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
 
   const std::unique_ptr<QNetworkReply> reply(network_->get(request));
-  QTimer limit;
-  limit.setSingleShot(true);
-  limit.start(timeout_s * 1000);
-  bool given_up = false;
-  windows_.WaitUntil([&] {
-    given_up = !limit.isActive() || reply->bytesAvailable() > kLargest || abandoned();
-    return given_up || reply->isFinished();
+  // The limits hold also while something else that the user has begun meanwhile keeps this from looking.
+  QNetworkReply* asked = reply.get();
+  QTimer::singleShot(timeout_s * 1000, asked, &QNetworkReply::abort);
+  QObject::connect(asked, &QNetworkReply::readyRead, asked, [asked] {
+    if (asked->bytesAvailable() > kLargest) asked->abort();
   });
-  if (given_up) reply->abort();
-  if (given_up || reply->error() != QNetworkReply::NoError) throw Erreur_Execution(Erreur::Disque_Non_Pret, url);
+  windows_.WaitUntil([&] { return asked->isFinished() || abandoned(); });
+  if (abandoned()) asked->abort();
+  if (asked->error() != QNetworkReply::NoError) throw Erreur_Execution(Erreur::Disque_Non_Pret, url);
   return Texte_Recu(reply->readAll().toStdString());
 }
 

@@ -124,7 +124,9 @@ void QtSerial::ClearInput() {
 }
 
 void QtSerial::Write(const std::string& bytes) {
-  if (port_ < 0 || waiting_.size() + bytes.size() > kOutputBuffer) throw Erreur_Execution(Erreur::Peripherique);
+  if (port_ < 0) throw Erreur_Execution(Erreur::Peripherique);
+  Push();
+  if (waiting_.size() + bytes.size() > kOutputBuffer) throw Erreur_Execution(Erreur::Peripherique);
   waiting_ += bytes;
   Push();
 }
