@@ -63,11 +63,5 @@ TEST(CatFrames, Icom) {
   EXPECT_EQ(Trames_Icom("&H6E", "0")[0][2], '\x6E');
 }
 
-TEST(CatFrames, Models) {
-  EXPECT_EQ(kModeles[kModeles_Offerts - 1].nom, "FT-897");
-  EXPECT_EQ(Cherche_Modele("IC-7800")->adresse, "&H6A");
-  EXPECT_EQ(Cherche_Modele("ft-847"), nullptr);
-}
-
 }  // namespace
 }  // namespace vorelio::tests

@@ -124,6 +124,30 @@ TEST_F(ClusterWindowTest, ATickWithinAnotherEventIsPassedOver) {
 
 const std::string kOn(5, '\0'), kMode("\0\0\0\0\x07", 5), kOff("\0\0\0\0\x80", 5), k40m("\x00\x70\x40\x50\x01", 5);
 
+// What can't be had, by the settings or by a date that moves the frequency out of its columns, ends the program; a
+// click within a load is no part of the load.
+TEST_F(ClusterWindowTest, WhatEndsTheProgram) {
+  const struct {
+    const char *port, *speed, *model, *date;
+    int number;
+  } cases[] = {{"2", "9600,n,8,1", "2", "", 68}, {"1", "0", "2", "", 5}, {"1", "fast,n,8,1", "2", "", 5},
+               {"0", "0", "Mon FT-847", "", 13}, {"0", "0", "4", "", 9}, {"1", "9600,n,8,1", "2", "1234Z ", 13}};
+  devices.serial.missing = {2};
+  for (const auto& [port, speed, model, date, number] : cases) {
+    Offer({{.date = date}});
+    Restart();
+    programme->contexte.Station_Indicatif = "F6ABC";
+    for (const auto& [key, value] : {std::pair{"Port Com", port}, {"Baud", speed}, {"Transceiver", model}})
+      settings.Write("DDFM", "Setup F6ABC", key, value);
+    Event([&] {
+      programme->Fenetre<Cluster>().Show();
+      programme->Fenetre<Cluster>().Afficher.UserClick();
+    });
+    EXPECT_EQ(programme->Erreur_Fatale(), number) << port << " " << speed << " " << model;
+  }
+  EXPECT_TRUE(devices.sounds.played.empty());
+}
+
 // The page that a tick brings in selects a line, and its tuning stands whole within the one that waits, which then goes
 // on with the new frequency.
 TEST_F(ClusterWindowTest, ATickInTheMiddleOfATuning) {
