@@ -94,6 +94,9 @@ class DDFM : public Form {
   MenuItem Mnu_Auto_Oui, Mnu_Auto_Non, Mnu_UTC_Oui, Mnu_UTC_Non, Mnu_Sep_Oui, Mnu_Sep_Non, Mnu_Exp_Oui, Mnu_Exp_Non;
   MenuItem Mnu_Nomenclature, Mnu_Prefixe, Mnu_Ajout_Activite;
   MenuItem Mnu_MAJ_Prefixe, Mnu_MAJ_Departement, Mnu_MAJ_Locator;
+  MenuItem Mnu_Carte_Dpt{*this, "Mnu_Carte_Dpt", "Carte des departements contactés"_t};
+  MenuItem Mnu_Carte_Activation{*this, "Mnu_Carte_Activation", "Carte des Activations contactées"_t};
+  MenuItem Mnu_Carte_Loc{*this, "Mnu_Carte_Loc", "Carte des locators contactés"_t};
   MenuItem Mnu_Stat_QSO{*this, "Mnu_Stat_QSO", "Generales des QSO"};
   MenuItem Mnu_Stat_Dist, Mnu_Stat_Prefixe, Mnu_Stat_DFCF;
   MenuItem Mnu_Imprime_Tout{*this, "Mnu_Imprime_Tout", "le log"};

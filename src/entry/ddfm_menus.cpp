@@ -22,7 +22,10 @@
 #include "tallies/prefix_statistics_window.h"
 #include "tallies/rebuild.h"
 #include "views/activation_statistics_window.h"
+#include "views/activity_map.h"
+#include "views/department_map.h"
 #include "views/distance_statistics_window.h"
+#include "views/locator_maps.h"
 #include "views/qso_statistics_window.h"
 
 namespace vorelio {
@@ -64,6 +67,9 @@ void DDFM::Relie_Menus() {
   Mnu_MAJ_Prefixe.Click = [this] { Refait_Prefixes(programme_); };
   Mnu_MAJ_Departement.Click = [this] { Refait_Departements(programme_); };
   Mnu_MAJ_Locator.Click = [this] { Refait_Locators(programme_); };
+  Mnu_Carte_Dpt.Click = [this] { programme_.Fenetre<Carte>().Show(); };
+  Mnu_Carte_Activation.Click = [this] { programme_.Fenetre<Carte_Acti>().Show(); };
+  Mnu_Carte_Loc.Click = [this] { programme_.Fenetre<Select_Locator>().Show(); };
   Mnu_RAZ_All.Click = [this] { Mnu_RAZ_All_Click(); };
   Mnu_Stat_QSO.Click = [this] { programme_.Fenetre<Statistique_QSO>().Show(); };
   Mnu_Stat_Dist.Click = [this] { programme_.Fenetre<Statistiques>().Show(); };

@@ -305,6 +305,14 @@ void Gauge::SetProgress(int done, int total) {
   Notify(Property::Progress);
 }
 
+Picture::Picture(Form& form, std::string_view name, std::string_view file, int width, int height)
+    : Control(form, name), file_(file), width_(width), height_(height) {}
+
+std::optional<Picture::Place> Picture::PlaceOf(const Control& control) const {
+  const auto place = places_.find(&control);
+  return place == places_.end() ? std::nullopt : std::optional(place->second);
+}
+
 OptionButton::OptionButton(Form& form, std::string_view name, std::string_view caption, std::string_view group,
                            bool set)
     : Captioned(form, name, caption), group_(group), set_(set) {}

@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 /// The windows as the logic sees them: plain objects with a name, the properties that the logic uses and the events
@@ -325,6 +327,36 @@ class Gauge : public Control {
  private:
   int done_ = 0;
   int total_ = 0;
+};
+
+/// An image, and controls that lie on it at fixed places: what shows it larger moves and enlarges them with it.
+class Picture : public Control {
+ public:
+  /// A place on the image, in pixels of its plain size.
+  struct Place {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+  };
+
+  /// `file` is the image's path below the program's directory, `width` and `height` its plain size in pixels. Beside
+  /// "name.jpg" the same image may lie twice as large as "name@2x.jpg". An image that is missing is no error.
+  Picture(Form& form, std::string_view name, std::string_view file, int width, int height);
+
+  const std::string& File() const { return file_; }
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+
+  void Lay(const Control& control, const Place& place) { places_[&control] = place; }
+  /// Where a control lies on the image; nothing if it doesn't.
+  std::optional<Place> PlaceOf(const Control& control) const;
+
+ private:
+  std::string file_;
+  int width_;
+  int height_;
+  std::unordered_map<const Control*, Place> places_;
 };
 
 /// One of the option buttons of a group: setting one clears the others.

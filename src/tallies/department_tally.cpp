@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "tallies/tally_file.h"
+#include "views/department_map.h"
 
 namespace vorelio::Sous_Programmes {
 
@@ -17,13 +18,6 @@ constexpr int kColonne_Nom = 22;
 
 std::string_view Cle(std::string_view ligne) { return Coupe(ligne, 1, kLargeur_Cle); }
 
-/// The grid's cell of a key: its number, with Corsica in either of its forms.
-int Cellule(std::string_view cle) {
-  if (cle == "2a" || cle == "2A") return 96;
-  if (cle == "2b" || cle == "2B") return 97;
-  return Nombre_Entier(cle);
-}
-
 void Compte_Couleur(Couleur couleur, Compte_Departements& compte) {
   if (couleur == kDpt_Contacte) ++compte.sans;
   if (couleur == kDpt_QSL_Envoyee) ++compte.envoyees;
@@ -31,32 +25,13 @@ void Compte_Couleur(Couleur couleur, Compte_Departements& compte) {
   if (couleur == kDpt_Confirme) ++compte.confirmees;
 }
 
-Compte_Departements Peint(Programme& programme, std::string_view bande, int& total) {
-  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
-  auto& cellules = programme.Fenetre<DDFM>().Dpt;
-  total = 0;
-  for (const auto& cellule : cellules) cellule->SetColour(kFond_Fenetre);
-
-  const int colonne = Colonne_Departement(bande);
-  for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
-    const std::string_view ligne = lignes.Suivante();
-    // An empty or truncated line has nothing to tell. A band without a column reads no line's code, and counts them
-    // all.
-    if (!A_Un_Code(ligne, colonne > 0 ? colonne : kLargeur_Cle)) continue;
-    const std::string_view code = colonne > 0 ? Coupe(ligne, colonne, 1) : std::string_view{};
-    if (code == "0") continue;
-    const int cellule = Cellule(Cle(ligne));
-    if (Couleur couleur{}; Couleur_Code(code, couleur)) cellules(cellule).SetColour(couleur);
-    ++total;
-  }
-
-  // What the cells show in the end counts, not the lines: two lines of one cell are one department here.
-  Compte_Departements compte;
-  for (const auto& cellule : cellules) Compte_Couleur(cellule->Colour(), compte);
-  return compte;
-}
-
 }  // namespace
+
+int Cellule_Departement(std::string_view cle) {
+  if (cle == "2a" || cle == "2A") return 96;
+  if (cle == "2b" || cle == "2B") return 97;
+  return Nombre_Entier(cle);
+}
 
 int Colonne_Departement(std::string_view bande) {
   const int indice = Indice_Bande(bande);
@@ -89,10 +64,38 @@ void Maj_Departement(Programme& programme, std::string_view departement, std::st
   Prend_Temporaire(programme, fichier, temporaire);
 }
 
-Compte_Departements Affiche_Departements(Programme& programme, std::string_view bande, int& total) {
+void Peint_Cellules(Programme& programme, std::string_view bande, const Cellules& cellules, int& total) {
+  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
+  total = 0;
+  Efface_Cellules(cellules, kFond_Fenetre);
+
+  const int colonne = Colonne_Departement(bande);
+  for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
+    const std::string_view ligne = lignes.Suivante();
+    // An empty or truncated line has nothing to tell. A band without a column reads no line's code, and counts them
+    // all.
+    if (!A_Un_Code(ligne, colonne > 0 ? colonne : kLargeur_Cle)) continue;
+    const std::string_view code = colonne > 0 ? Coupe(ligne, colonne, 1) : std::string_view{};
+    if (code == "0") continue;
+    const int cellule = Cellule_Departement(Cle(ligne));
+    if (Couleur couleur{}; Couleur_Code(code, couleur)) cellules(cellule).SetColour(couleur);
+    ++total;
+  }
+}
+
+Compte_Departements Compte_Cellules(const Cellules& cellules) {
   Compte_Departements compte;
-  Piege_Fichier_Station(programme, kSuite, [&] { compte = Peint(programme, bande, total); });
+  for (const auto& cellule : cellules) Compte_Couleur(cellule->Colour(), compte);
   return compte;
+}
+
+Compte_Departements Affiche_Departements(Programme& programme, std::string_view bande, int& total) {
+  const Cellules& grille = programme.Fenetre<DDFM>().Dpt;
+  Piege_Fichier_Station(programme, kSuite, [&] { Peint_Cellules(programme, bande, grille, total); });
+  // What the cells show in the end counts, not the lines: two lines of one cell are one department here. Where the map
+  // of the departments is open its cells count, though they may be of another band.
+  const auto* carte = programme.Ouverte<Carte>();
+  return Compte_Cellules(carte ? carte->Dep : grille);
 }
 
 }  // namespace vorelio::Sous_Programmes

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "tallies/tally_file.h"
+#include "views/locator_maps.h"
 
 namespace vorelio::Sous_Programmes {
 
@@ -51,10 +52,12 @@ void Maj_Locator(Programme& programme, std::string_view carre, std::string_view 
 
 void Affiche_Locators(Programme& programme, std::string_view bande, std::string_view champ, int& total) {
   const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
-  auto& cellules = programme.Fenetre<DDFM>().Dpt;
+  const Cellules& grille = programme.Fenetre<DDFM>().Dpt;
+  Carte_Champ* carte = Carte_Du_Champ(programme, champ);
   total = 0;
   // The pale colour tells the squares from the departments.
-  for (const auto& cellule : cellules) cellule->SetColour(kFait);
+  Efface_Cellules(grille, kFait);
+  if (carte) Efface_Cellules(carte->Dep, kFond_Fenetre);
 
   const int colonne = Colonne_Locator(bande);
   for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
@@ -66,10 +69,12 @@ void Affiche_Locators(Programme& programme, std::string_view bande, std::string_
     if (code == "0" || Coupe(ligne, 1, kLargeur_Champ) != champ) continue;
     if (Couleur couleur{}; Couleur_Code(code, couleur)) {
       const int cellule = Nombre_Entier(Coupe(ligne, kLargeur_Champ + 1, kLargeur_Cle - kLargeur_Champ));
-      cellules(cellule).SetColour(couleur);
+      grille(cellule).SetColour(couleur);
+      if (carte) carte->Dep(cellule).SetColour(couleur);
     }
     ++total;
   }
+  if (carte) carte->Bande_Carre.SetCaption(bande);
 }
 
 }  // namespace vorelio::Sous_Programmes

@@ -27,6 +27,10 @@ bool Couleur_Code(std::string_view code, Couleur& couleur) {
   return true;
 }
 
+void Efface_Cellules(const Cellules& cellules, Couleur fond) {
+  for (const auto& cellule : cellules) cellule->SetColour(fond);
+}
+
 void Ecrit_Temporaire(Programme& programme, const std::string& chemin, const std::string& temporaire,
                       const Change_Ligne& change) {
   const std::string texte = programme.Disque().ReadAll(chemin);

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/programme.h"
+#include "platform/controls.h"
 
 /// What the tallies have in common: lines with one code character per band, rewritten through a temporary file.
 namespace vorelio::Sous_Programmes {
@@ -18,6 +19,11 @@ std::string Avec_Code(std::string_view ligne, int colonne, std::string_view code
 
 /// The colour of a cell with `code` "1" to "4"; false, and `couleur` as it was, for any other code.
 bool Couleur_Code(std::string_view code, Couleur& couleur);
+
+/// The cells of a grid or a map, 0 to 99.
+using Cellules = ControlArray<TextField>;
+
+void Efface_Cellules(const Cellules& cellules, Couleur fond);
 
 /// What a line of a file becomes; both without their ends.
 using Change_Ligne = std::function<std::string(std::string_view ligne)>;

@@ -1,0 +1,94 @@
+#include "views/activity_map.h"
+
+#include <algorithm>
+#include <string>
+
+#include "core/bands.h"
+#include "core/log_line.h"
+#include "entry/ddfm.h"
+#include "maintenance/activity_list.h"
+#include "views/map_cells.h"
+
+namespace vorelio {
+
+using namespace Sous_Programmes;
+
+Carte_Acti::Carte_Acti(Programme& programme)
+    : Form(programme, "Carte_Acti", "Carte_Activations"),
+      Picture1(*this, "Picture1", kImage_France, kLargeur_France, kHauteur_France) {
+  Pose_Departements(Picture1, Dep, Carte_France::Activites);
+  Pose_Legende(Text1, kDpt_Contacte);
+  Pose_Legende(Text5, kDpt_QSL_Envoyee);
+  Pose_Legende(Text4, kDpt_QSL_Recue);
+  Pose_Legende(Text3, kDpt_Confirme);
+  Aff_Carte.Click = [this] { Aff_Carte_Click(); };
+}
+
+void Carte_Acti::Form_Load() {
+  Centre();
+  Bande_A.AddItem(kToutes_Bandes);
+  for (const auto bande : kBandes) Bande_A.AddItem(bande);
+  for (const std::string& nom : Noms_Activites(programme_, "err3")) Activite_A.AddItem(nom);
+  Bande_A.SetListIndex(0);
+  Activite_A.SetListIndex(0);
+}
+
+void Carte_Acti::Aff_Carte_Click() {
+  if (Bande_A.Text().empty()) return programme_.Message("Selectionnez une bande");
+  if (Activite_A.Text().empty()) return programme_.Message("Selectionnez une Activité"_t);
+  auto& contexte = programme_.contexte;
+  contexte.Bande_Grille = Bande_A.Text();
+  Label6.SetCaption(Activite_A.Text());
+  // The list begins with activity 1.
+  const std::string activite = std::to_string(std::max(Activite_A.ListIndex(), 0) + 1);
+  const Compte_Departements compte =
+      Dessine_Carte_Activite(programme_, Bande_A.Text(), activite, contexte.Nb_Contactes);
+  NB_Activ.SetCaption(Texte_Nombre(contexte.Nb_Contactes));
+  Label15.SetCaption(Texte_Nombre(compte.sans));
+  Label14.SetCaption(Texte_Nombre(compte.envoyees));
+  Label13.SetCaption(Texte_Nombre(compte.recues));
+  Label12.SetCaption(Texte_Nombre(compte.confirmees));
+  TotDep.SetCaption(Texte_Nombre(compte.sans + compte.envoyees + compte.recues + compte.confirmees));
+}
+
+namespace {
+
+/// Raises a cell's colour to that of a QSL state; never lowers it.
+void Monte_Couleur(TextField& cellule, std::string_view etat) {
+  Couleur nouvelle{};
+  if (!Couleur_Code(etat, nouvelle)) return;
+  const auto rang = [](Couleur couleur) {
+    constexpr Couleur kRangs[] = {kFond_Fenetre, kDpt_Contacte, kDpt_QSL_Envoyee, kDpt_QSL_Recue, kDpt_Confirme};
+    return std::find(std::begin(kRangs), std::end(kRangs), couleur);
+  };
+  if (rang(nouvelle) > rang(cellule.Colour())) cellule.SetColour(nouvelle);
+}
+
+}  // namespace
+
+namespace Sous_Programmes {
+
+Compte_Departements Dessine_Carte_Activite(Programme& programme, std::string_view bande, std::string_view activite,
+                                           int& total) {
+  auto& carte = programme.Fenetre<Carte_Acti>();
+  const std::string journal = programme.Disque().ReadAll(programme.Chemin_Log(programme.contexte.Station_Indicatif));
+  carte.Bande_Carte.SetCaption(bande);
+  total = 0;
+  Efface_Cellules(carte.Dep, kFond_Fenetre);
+  for (Lecteur_Lignes lignes(journal); !lignes.Fini();) {
+    const std::string_view ligne = lignes.Suivante();
+    if (Lit_Log(ligne, champs::Activ_A) != activite) continue;
+    if (bande != kToutes_Bandes && Lit_Log(ligne, champs::Bande_A) != bande) continue;
+    ++total;
+    // Two characters of the field, whose third one no department uses.
+    const std::string_view departement = Coupe(ligne, champs::Depart_A.colonne, 2);
+    if (departement == "  ") continue;
+    Monte_Couleur(carte.Dep(Cellule_Departement(departement)),
+                  Coupe(ligne, champs::Etat_QSL.colonne, champs::Etat_QSL.largeur));
+  }
+  return Compte_Cellules(carte.Dep);
+}
+
+}  // namespace Sous_Programmes
+
+}  // namespace vorelio
