@@ -35,8 +35,11 @@
 #include "tallies/prefix_statistics_window.h"
 #include "tallies/progress_window.h"
 #include "views/activation_statistics_window.h"
+#include "views/activity_map.h"
+#include "views/department_map.h"
 #include "views/department_window.h"
 #include "views/distance_statistics_window.h"
+#include "views/locator_maps.h"
 #include "views/qso_statistics_window.h"
 #include "views/search_window.h"
 #include "windows/windows_bench.h"
@@ -81,7 +84,19 @@ constexpr Maker kForms[] = {Make<DDFM>,
                             Make<Cluster>,
                             Make<Memoire_CL>,
                             Make<Adresse_Cluster>,
-                            Make<Ports_Serie>};
+                            Make<Ports_Serie>,
+                            Make<Carte>,
+                            Make<Carte_Acti>,
+                            Make<Select_Locator>,
+                            Make<Carte_IM>,
+                            Make<Carte_IN>,
+                            Make<Carte_IO>,
+                            Make<Carte_JM>,
+                            Make<Carte_JN>,
+                            Make<Carte_JO>,
+                            Make<Carte_KM>,
+                            Make<Carte_KN>,
+                            Make<Carte_KO>};
 
 /// A form with its window, without its being loaded.
 struct Bound {

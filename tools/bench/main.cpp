@@ -12,6 +12,7 @@
 #include "floors.h"
 #include "import_measures.h"
 #include "log_maker.h"
+#include "map_measures.h"
 #include "start_time.h"
 #include "station_run.h"
 #include "table.h"
@@ -115,9 +116,10 @@ void MeasureAll() {
   }
   std::fprintf(stderr, "Tallies and starts...\n");
   MeasureTallies(rows);
-  std::fprintf(stderr, "Rebuilds and cards...\n");
+  std::fprintf(stderr, "Rebuilds, cards and maps...\n");
   MeasureRebuilds(rows);
   MeasureCards(rows);
+  MeasureMaps(rows);
   std::fprintf(stderr, "Imports...\n");
   MeasureImports(rows);
   std::fprintf(stderr, "Statistics and searches...\n");

@@ -36,12 +36,16 @@
 #include "tallies/add_prefix_window.h"
 #include "tallies/department_tally.h"
 #include "tallies/directory_window.h"
+#include "tallies/locator_tally.h"
 #include "tallies/prefix_statistics_window.h"
 #include "tallies/prefix_tally.h"
 #include "tallies/progress_window.h"
 #include "views/activation_statistics_window.h"
+#include "views/activity_map.h"
+#include "views/department_map.h"
 #include "views/department_window.h"
 #include "views/distance_statistics_window.h"
+#include "views/locator_maps.h"
 #include "views/qso_statistics_window.h"
 #include "views/search_window.h"
 
@@ -150,6 +154,9 @@ void FillTallies(Programme& programme) {
   for (int n = 1; n < 96; ++n)
     if (n * 7 % 5 < 3)
       Sous_Programmes::Maj_Departement(programme, Deux_Chiffres(n), std::to_string(1 + n * 11 % 4), "144 Mhz");
+  for (int n = 0; n < 100; ++n)
+    if (n * 13 % 7 < 3)
+      Sous_Programmes::Maj_Locator(programme, "JN" + Deux_Chiffres(n), std::to_string(1 + n * 5 % 4), "144 Mhz");
   for (const char* call : {"F9AAA", "DL9ZZZ", "I9QQQ", "EA9XXX", "TK9KLM", "G9AAA", "HB9AAA"}) {
     std::string code, country, prefix;
     Sous_Programmes::Maj_Prefixe(programme, call, "7.0 Mhz", code, country, prefix);
@@ -202,6 +209,14 @@ class Tour {
     TakeLabels();
     TakeNotes();
     TakeCluster();
+    Do([&] { programme_.Fenetre<Carte>().Bande_S.SetListIndex(10); });
+    TakeWindow<Carte>();
+    Do([&] { programme_.Fenetre<Carte_Acti>().Show(); });
+    Do([&] { programme_.Fenetre<Carte_Acti>().Aff_Carte.UserClick(); });
+    TakeWindow<Carte_Acti>();
+    TakeWindow<Select_Locator>();
+    Do([&] { Sous_Programmes::Affiche_Locators(programme_, "144 Mhz", "JN", programme_.contexte.Nb_Contactes); });
+    TakeWindow<Carte_JN>();
     TakeWindow<Chargement>();
     TakeWindow<Progression>();
     Do([&] {
@@ -325,6 +340,10 @@ bool CopyData(const QString& to) {
   bool copied = true;
   for (const QString& name : TemplateFiles())
     copied = QFile::copy(data.filePath(name), QDir(to).filePath(name)) && copied;
+  const QDir maps(data.filePath(QStringLiteral("maps"))), target(QDir(to).filePath(QStringLiteral("maps")));
+  target.mkpath(QStringLiteral("."));
+  for (const QString& name : maps.entryList(QDir::Files))
+    copied = QFile::copy(maps.filePath(name), target.filePath(name)) && copied;
   return copied;
 }
 

@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "platform/qt/caption_views.h"
 #include "platform/qt/rows_view.h"
 #include "platform/qt/style.h"
 
@@ -75,6 +76,13 @@ void DressText(QWidget& widget) {
     QPalette palette;
     palette.setColor(QPalette::WindowText, widget.parentWidget()->palette().color(QPalette::PlaceholderText));
     widget.setPalette(palette);
+  }
+  if (auto* plate = dynamic_cast<CaptionLabel*>(&widget); plate && widget.property("plaque").isValid()) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(widget.property("plaque").toString()));
+    palette.setColor(QPalette::WindowText, Qt::black);
+    plate->setPalette(palette);
+    plate->SetPlate(true);
   }
 }
 

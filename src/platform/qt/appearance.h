@@ -10,8 +10,8 @@ namespace vorelio {
 /// The look of the windows: light or dark, and the size of their text. Both are the user's choice, and are kept.
 ///
 /// Properties of widgets in the .ui files that it looks at: "echelle" (size of the text against the others'), "gras"
-/// (bold), "discret" (quiet text), "bandeau" (the band at the head of a window), "papier" (a printed label: black on
-/// white in a fixed pitch, also in the dark).
+/// (bold), "discret" (quiet text), "plaque" (the colour of a label's plate), "bandeau" (the band at the head of a
+/// window), "papier" (a printed label: black on white in a fixed pitch, also in the dark).
 class Appearance {
  public:
   enum class Theme { System, Light, Dark };

@@ -21,6 +21,7 @@
 #include "platform/qt/list_view.h"
 #include "platform/qt/multi_line_view.h"
 #include "platform/qt/other_views.h"
+#include "platform/qt/picture_view.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/text_field_view.h"
 
@@ -56,6 +57,10 @@ View* MakeView(Control& control, QObject* shown, Gate& gate) {
   if (auto* option = dynamic_cast<OptionButton*>(&control))
     return ViewFor<ClickViewOf<OptionButton>, QRadioButton>(option, shown, gate);
   if (auto* gauge = dynamic_cast<Gauge*>(&control)) return ViewFor<GaugeView, QProgressBar>(gauge, shown, gate);
+  if (auto* picture = dynamic_cast<Picture*>(&control)) {
+    auto* board = dynamic_cast<PictureBoard*>(shown);
+    return board ? new PictureView(*picture, *board, gate) : nullptr;
+  }
   if (auto* item = dynamic_cast<MenuItem*>(&control)) return ViewFor<MenuView, QAction>(item, shown, gate);
   return nullptr;
 }
@@ -146,6 +151,25 @@ QString TitlesOf(const QGridLayout& grid, const Place& place) {
 
 }  // namespace
 
+/// A field that a picture of its form has a place for. The board's property "cases" is what each of them is called,
+/// before its number.
+QObject* Binding::LayOnPicture(Control& control, QWidget& window) {
+  if (!dynamic_cast<TextField*>(&control)) return nullptr;
+  for (const Control* other : control.Parent().Controls()) {
+    const auto* picture = dynamic_cast<const Picture*>(other);
+    const auto place = picture ? picture->PlaceOf(control) : std::nullopt;
+    if (!place) continue;
+    auto* board = dynamic_cast<PictureBoard*>(window.findChild<QWidget*>(ToQt(picture->Name())));
+    if (!board) return nullptr;
+    auto* cell = new PictureCell(*board);
+    cell->setObjectName(ToQt(control.Name()));
+    cell->setAccessibleName(board->property("cases").toString() + u' ' + ToQt(control.Words()));
+    board->Lay(*cell, {place->left, place->top, place->width, place->height});
+    return cell;
+  }
+  return nullptr;
+}
+
 /// An element of an array for which the window has a holder only: a cell is made in it.
 QObject* Binding::Fill(Control& control, QWidget& window) {
   const Element element = ElementOf(ToQt(control.Name()));
@@ -181,6 +205,7 @@ void Binding::Bind(Control& control, QWidget& window, Gate& gate) {
     return;
   }
   QObject* shown = Find(ToQt(control.Name()), window);
+  if (!shown) shown = LayOnPicture(control, window);
   if (!shown) shown = Fill(control, window);
   if (!shown) {
     problems_.push_back(control.Name() + ": no widget");
@@ -239,13 +264,14 @@ namespace {
 /// Makes this program's own kinds in place of the plain ones that the .ui files name.
 class Loader : public QUiLoader {
  public:
-  // The files name nothing but widgets of Qt's own: a search for Designer's plugins would only cost time.
+  // The files name no widgets of other makers: a search for Designer's plugins would only cost time.
   Loader() { clearPluginPaths(); }
 
   QWidget* createWidget(const QString& kind, QWidget* parent, const QString& name) override {
     QWidget* own = nullptr;
     if (kind == QLatin1String("QListView")) own = new RowsView(parent);
     if (kind == QLatin1String("QLabel")) own = new CaptionLabel(parent);
+    if (kind == QLatin1String("PictureBoard")) own = new PictureBoard(parent);
     if (!own) return QUiLoader::createWidget(kind, parent, name);
     own->setObjectName(name);
     return own;

@@ -13,7 +13,8 @@ namespace vorelio {
 
 /// The bond between a form and its window: each control of the form is joined with the widget or the action of the
 /// window that bears its name. A name with an index, "Dpt(57)", is also looked for as "Dpt_57"; if the window has
-/// neither, the controls of the array are filled into the widget that is called "Dpt".
+/// neither, the controls of the array are filled into the widget that is called "Dpt". Controls that lie on a picture
+/// are made on its board.
 class Binding {
  public:
   Binding(Form& form, QWidget& window, Gate& gate);
@@ -34,6 +35,7 @@ class Binding {
  private:
   void Bind(Control& control, QWidget& window, Gate& gate);
   QObject* Find(const QString& name, QWidget& window) const;
+  QObject* LayOnPicture(Control& control, QWidget& window);
   QObject* Fill(Control& control, QWidget& window);
   void LookForStrangers(const Form& form, QWidget& window);
 

@@ -87,6 +87,8 @@ std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QSt
       problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
       return std::nullopt;
     }
+    const QString maps = QStringLiteral("maps");
+    if (!Seed(QDir(own.filePath(maps)), QDir(folder.filePath(maps)), problem)) return std::nullopt;
     for (const QString& name : TemplateFiles())
       QFile::setPermissions(folder.filePath(name),
                             QFile::permissions(folder.filePath(name)) | QFile::WriteOwner | QFile::ReadOwner);

@@ -17,9 +17,9 @@ struct ProgramFolder {
 };
 
 /// Finds the folder, and makes and fills it where needed: the program's own, if it can be written and holds the
-/// templates, else `data_home`/Vorelio, where the templates that lie beside the program or in ../share/vorelio are
-/// copied to, over nothing that stands there but older files in folders of their own. Nothing, with the reason in
-/// `problem`, if neither can be had.
+/// templates, else `data_home`/Vorelio, where the templates and what goes with them (manual, maps, sounds) that lie
+/// beside the program or in ../share/vorelio are copied to, over nothing that stands there but older files in folders
+/// of their own. Nothing, with the reason in `problem`, if neither can be had.
 std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QString& data_home, QString& problem);
 
 /// The names of the files without which no station can be made.

@@ -1,0 +1,146 @@
+#include "platform/qt/picture_board.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vorelio {
+
+namespace {
+
+/// A picture in a dark window lights no room.
+constexpr double kDimmed = 0.42;
+
+/// Beyond this share of its plain size a picture is taken from the larger file.
+constexpr double kLarger = 1.02;
+
+bool IsDark(const QWidget& widget) { return widget.palette().color(QPalette::Window).lightness() < 128; }
+
+}  // namespace
+
+void PictureBoard::SetPicture(const QString& file, const QSize& plain, Reader read) {
+  file_ = file;
+  plain_ = plain;
+  read_ = std::move(read);
+  updateGeometry();
+}
+
+void PictureBoard::Lay(QWidget& widget, const QRect& place) {
+  laid_.push_back({&widget, place});
+  Arrange();
+}
+
+QRectF PictureBoard::Stand() const {
+  const QSizeF size = QSizeF(plain_).scaled(QSizeF(this->size()), Qt::KeepAspectRatio);
+  return {QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size};
+}
+
+void PictureBoard::Arrange() {
+  const QRectF stand = Stand();
+  const double scale = plain_.width() > 0 ? stand.width() / plain_.width() : 1;
+  for (const auto& [widget, place] : laid_) {
+    const QRectF scaled(stand.topLeft() + QPointF(place.topLeft()) * scale, QSizeF(place.size()) * scale);
+    widget->setGeometry(scaled.toRect());
+  }
+}
+
+void PictureBoard::resizeEvent(QResizeEvent*) { Arrange(); }
+
+QImage PictureBoard::Source(double scale) const {
+  if (!read_) return {};
+  QString larger = file_;
+  larger.insert(larger.lastIndexOf(u'.'), QStringLiteral("@2x"));
+  const QString first = scale > kLarger ? larger : file_, second = scale > kLarger ? file_ : larger;
+  QImage image = read_(first);
+  if (image.isNull()) image = read_(second);
+  return image;
+}
+
+void PictureBoard::Prepare(const QRect& stand) {
+  const double ratio = devicePixelRatioF();
+  const QSize pixels = (QSizeF(stand.size()) * ratio).toSize();
+  const bool dark = IsDark(*this);
+  const bool ready = shown_.size() == pixels && dark_ == dark;
+  if (ready || absent_ || pixels.isEmpty()) return;
+  QImage image = Source(static_cast<double>(pixels.width()) / plain_.width());
+  absent_ = image.isNull();
+  if (absent_) return;
+  image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  if (dark) {
+    QColor shade = palette().color(QPalette::Window);
+    shade.setAlphaF(static_cast<float>(kDimmed));
+    QPainter(&image).fillRect(image.rect(), shade);
+  }
+  image.setDevicePixelRatio(ratio);
+  shown_ = QPixmap::fromImage(image);
+  dark_ = dark;
+}
+
+void PictureBoard::paintEvent(QPaintEvent*) {
+  const QRect stand = Stand().toRect();
+  Prepare(stand);
+  QPainter painter(this);
+  if (absent_)
+    PaintAbsence(painter, stand);
+  else
+    painter.drawPixmap(stand.topLeft(), shown_);
+}
+
+void PictureBoard::PaintAbsence(QPainter& painter, const QRect& stand) const {
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.setBrush(palette().color(QPalette::AlternateBase));
+  painter.drawRect(stand.adjusted(0, 0, -1, -1));
+  const QString words = QStringLiteral("L'image « %1 » manque dans le dossier du programme.").arg(file_);
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(stand.adjusted(12, 0, -12, -8), Qt::AlignBottom | Qt::AlignLeft | Qt::TextWordWrap, words);
+}
+
+// --- Cells ----------------------------------------------------------------------------------------------------------
+
+PictureCell::PictureCell(PictureBoard& board) : QLineEdit(&board) {
+  setFocusPolicy(Qt::ClickFocus);
+  setAlignment(Qt::AlignCenter);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  setProperty("cellule", true);
+}
+
+void PictureCell::resizeEvent(QResizeEvent* event) {
+  // Bold Arial of eight points on a cell of twenty pixels, and as the cell grows.
+  constexpr double kLetter = 0.56;
+  QFont letters(QStringLiteral("Arial"));
+  letters.setBold(true);
+  letters.setPixelSize(std::max(6, static_cast<int>(std::lround(height() * kLetter))));
+  setFont(letters);
+  QLineEdit::resizeEvent(event);
+}
+
+void PictureCell::keyPressEvent(QKeyEvent* event) {
+  QPoint ahead;
+  switch (event->key()) {
+    case Qt::Key_Left: ahead = {-1, 0}; break;
+    case Qt::Key_Right: ahead = {1, 0}; break;
+    case Qt::Key_Up: ahead = {0, -1}; break;
+    case Qt::Key_Down: ahead = {0, 1}; break;
+    default: QLineEdit::keyPressEvent(event); return;
+  }
+  // The nearest one in that direction; what lies aside counts twice.
+  const QPoint here = geometry().center();
+  QWidget* next = nullptr;
+  int nearest = 0;
+  for (auto* other : parentWidget()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+    const QPoint way = other->geometry().center() - here;
+    const int forward = QPoint::dotProduct(way, ahead);
+    const int aside = std::abs(QPoint::dotProduct(way, {ahead.y(), ahead.x()}));
+    if (other->isHidden() || forward <= 0 || aside > 2 * forward) continue;
+    const int distance = forward + 2 * aside;
+    if (next && distance >= nearest) continue;
+    next = other;
+    nearest = distance;
+  }
+  // The reason of a tab tells the model that the user has come here.
+  if (next) next->setFocus(Qt::TabFocusReason);
+}
+
+}  // namespace vorelio

@@ -1,0 +1,106 @@
+#include <QDir>
+#include <QImage>
+
+#include "platform/qt/picture_board.h"
+#include "platform/qt/qt_text.h"
+#include "views/activity_map.h"
+#include "views/department_map.h"
+#include "views/locator_maps.h"
+#include "windows/windows_bench.h"
+
+namespace vorelio::tests {
+
+namespace {
+
+/// Where the middle of a cell is on the image, in pixels of its plain size.
+QPointF OnImage(const PictureBoard& board, const QSize& plain, const QWidget& cell) {
+  const double scale = std::min(double(board.width()) / plain.width(), double(board.height()) / plain.height());
+  const QPointF corner((board.width() - plain.width() * scale) / 2, (board.height() - plain.height() * scale) / 2);
+  return (QRectF(cell.geometry()).center() - corner) / scale;
+}
+
+QImage Delivered(const QString& file) { return QImage(QStringLiteral(VORELIO_DATA_DIR "/") + file); }
+
+}  // namespace
+
+class PictureTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void CellsKeepTheirPlaceAsTheWindowGrows() {
+    WindowsBench bench;
+    Carte& map = bench.Open<Carte>();
+    auto* window = bench.windows.WindowOf(map);
+    auto* board = dynamic_cast<PictureBoard*>(bench.windows.WidgetOf(map.Picture1));
+    QVERIFY(board);
+    for (const QSize size : {QSize(760, 560), QSize(1300, 640), QSize(900, 1000)}) {
+      window->resize(size);
+      QCoreApplication::processEvents();
+      const auto* cell = bench.windows.WidgetOf(map.Dep(57));
+      const QPointF off = OnImage(*board, {475, 510}, *cell) - QPointF(384 + 12.5, 104 + 10);
+      QVERIFY2(off.manhattanLength() < 1.5, qPrintable(QStringLiteral("%1 %2").arg(off.x()).arg(off.y())));
+    }
+  }
+
+  void ArrowsLeadToTheNearestCell() {
+    WindowsBench bench;
+    Carte& map = bench.Open<Carte>();
+    auto* cell = bench.windows.WidgetOf(map.Dep(55));
+    cell->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(cell, Qt::Key_Right);
+    QCOMPARE(bench.programme.Focus(), &map.Dep(57));
+    QTest::keyClick(bench.windows.WidgetOf(map.Dep(57)), Qt::Key_Down);
+    QCOMPARE(bench.programme.Focus(), &map.Dep(54));
+  }
+
+  void EveryMapHasItsImageInBothSizes() {
+    WindowsBench bench;
+    QStringList files;
+    const auto check = [&](const Picture& picture) {
+      const QString file = ToQt(picture.File());
+      const QSize plain(picture.Width(), picture.Height());
+      QCOMPARE(Delivered(file).size(), plain);
+      QCOMPARE(Delivered(QString(file).replace(QStringLiteral(".jpg"), QStringLiteral("@2x.jpg"))).size(), plain * 2);
+      files << file;
+    };
+    bench.programme.Recoit([&] {
+      check(bench.programme.Fenetre<Carte>().Picture1);
+      check(bench.programme.Fenetre<Carte_Acti>().Picture1);
+      for (const auto field : kChamps_Cartes) check(Carte_Du_Champ(bench.programme, field)->Picture1);
+    });
+    files.removeDuplicates();
+    QCOMPARE(files.size(), 10);
+  }
+
+  void TheSizeIsChosenByTheScale() {
+    const QStringList wanted = {QStringLiteral("a/b.jpg"), QStringLiteral("a/b@2x.jpg")};
+    for (const int scale : {1, 2}) {
+      PictureBoard board(nullptr);
+      QStringList read;
+      board.SetPicture(wanted[0], {40, 30}, [&read](const QString& file) {
+        read << file;
+        QImage image(40, 30, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        return image;
+      });
+      board.resize(QSize(40, 30) * scale);
+      QCOMPARE(board.grab().toImage().pixelColor(20, 15), QColor(Qt::red));
+      QCOMPARE(read, QStringList(wanted[scale - 1]));
+    }
+  }
+
+  void AMissingImageLeavesTheCells() {
+    WindowsBench bench;
+    Carte_JN& map = bench.Open<Carte_JN>();
+    const QImage seen = bench.windows.WidgetOf(map.Picture1)->grab().toImage();
+    QVERIFY(!seen.isNull());
+    QVERIFY(bench.windows.WidgetOf(map.Dep(57))->isVisible());
+    QCOMPARE(bench.programme.Erreur_Fatale(), 0);
+  }
+};
+
+const InSuite<PictureTest> kPictureTest;
+
+}  // namespace vorelio::tests
+
+#include "picture_test.moc"
