@@ -1,6 +1,7 @@
 #include "views/activity_map.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "core/bands.h"
@@ -53,15 +54,14 @@ void Carte_Acti::Aff_Carte_Click() {
 
 namespace {
 
+/// What a cell can show, from the least to the most.
+constexpr std::array kRangs = {kFond_Fenetre, kDpt_Contacte, kDpt_QSL_Envoyee, kDpt_QSL_Recue, kDpt_Confirme};
+
 /// Raises a cell's colour to that of a QSL state; never lowers it.
 void Monte_Couleur(TextField& cellule, std::string_view etat) {
   Couleur nouvelle{};
-  if (!Couleur_Code(etat, nouvelle)) return;
-  const auto rang = [](Couleur couleur) {
-    constexpr Couleur kRangs[] = {kFond_Fenetre, kDpt_Contacte, kDpt_QSL_Envoyee, kDpt_QSL_Recue, kDpt_Confirme};
-    return std::find(std::begin(kRangs), std::end(kRangs), couleur);
-  };
-  if (rang(nouvelle) > rang(cellule.Colour())) cellule.SetColour(nouvelle);
+  if (Couleur_Code(etat, nouvelle) && std::ranges::find(kRangs, nouvelle) > std::ranges::find(kRangs, cellule.Colour()))
+    cellule.SetColour(nouvelle);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QImage>
 
+#include "entry/ddfm.h"
 #include "platform/qt/picture_board.h"
 #include "platform/qt/qt_text.h"
 #include "views/activity_map.h"
@@ -44,7 +45,10 @@ class PictureTest : public QObject {
 
   void ArrowsLeadToTheNearestCell() {
     WindowsBench bench;
+    // The main window comes with the first map that is painted, and would come to the front.
+    bench.Open<DDFM>();
     Carte& map = bench.Open<Carte>();
+    QVERIFY(QTest::qWaitForWindowActive(bench.windows.WindowOf(map)));
     auto* cell = bench.windows.WidgetOf(map.Dep(55));
     cell->setFocus(Qt::MouseFocusReason);
     QTest::keyClick(cell, Qt::Key_Right);
