@@ -76,7 +76,8 @@ std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QSt
     problem = QStringLiteral("Impossible de créer le dossier %1.").arg(folder.path());
     return std::nullopt;
   }
-  // Beside the program stand the program and whatever else is installed there: only the templates are taken then.
+  // Beside the program stand the program and whatever else is installed there: only the templates and maps are
+  // taken then.
   const QDir shared(own.filePath(QStringLiteral("../share/vorelio")));
   if (HoldsTemplates(shared)) {
     if (!Seed(shared, folder, problem)) return std::nullopt;
