@@ -48,14 +48,15 @@ void PictureBoard::Arrange() {
 
 void PictureBoard::resizeEvent(QResizeEvent*) { Arrange(); }
 
-QImage PictureBoard::Source(double scale) const {
-  if (!read_) return {};
-  QString larger = file_;
-  larger.insert(larger.lastIndexOf(u'.'), QStringLiteral("@2x"));
-  const QString first = scale > kLarger ? larger : file_, second = scale > kLarger ? file_ : larger;
-  QImage image = read_(first);
-  if (image.isNull()) image = read_(second);
-  return image;
+const QImage& PictureBoard::Source(double scale) {
+  const bool larger = scale > kLarger;
+  if (!source_.isNull() && larger_ == larger) return source_;
+  larger_ = larger;
+  QString twice = file_;
+  twice.insert(twice.lastIndexOf(u'.'), QStringLiteral("@2x"));
+  source_ = read_(larger ? twice : file_);
+  if (source_.isNull()) source_ = read_(larger ? file_ : twice);
+  return source_;
 }
 
 void PictureBoard::Prepare(const QRect& stand) {
@@ -63,11 +64,11 @@ void PictureBoard::Prepare(const QRect& stand) {
   const QSize pixels = (QSizeF(stand.size()) * ratio).toSize();
   const bool dark = IsDark(*this);
   const bool ready = shown_.size() == pixels && dark_ == dark;
-  if (ready || absent_ || pixels.isEmpty()) return;
-  QImage image = Source(static_cast<double>(pixels.width()) / plain_.width());
-  absent_ = image.isNull();
+  if (ready || absent_ || !read_ || pixels.isEmpty()) return;
+  const QImage& source = Source(static_cast<double>(pixels.width()) / plain_.width());
+  absent_ = source.isNull();
   if (absent_) return;
-  image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QImage image = source.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   if (dark) {
     QColor shade = palette().color(QPalette::Window);
     shade.setAlphaF(static_cast<float>(kDimmed));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QLineEdit>
 #include <QPixmap>
 #include <QWidget>
@@ -39,13 +40,16 @@ class PictureBoard : public QWidget {
   QRectF Stand() const;
   void Arrange();
   void Prepare(const QRect& stand);
-  QImage Source(double scale) const;
+  /// The image to be shown at `scale` times its plain size, read when that changes the file.
+  const QImage& Source(double scale);
   void PaintAbsence(QPainter& painter, const QRect& stand) const;
 
   QString file_;
   QSize plain_;
   Reader read_;
   std::vector<Laid> laid_;
+  QImage source_;
+  bool larger_ = false;  ///< Whether `source_` was asked for twice as large.
   QPixmap shown_;
   bool dark_ = false;
   bool absent_ = false;
