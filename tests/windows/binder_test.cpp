@@ -259,14 +259,6 @@ class BinderTest : public QObject {
     QCOMPARE(bound.bench.programme.Focus(), &form.Text11(78));
   }
 
-  void ALabelHeadsTheColumnsOfItsList() {
-    Bound bound(Make<Affiche_Dpt>);
-    auto& form = static_cast<Affiche_Dpt&>(*bound.form);
-    form.Label1.SetCaption("   Un    Deux mots");
-    QCOMPARE(bound.bench.windows.WidgetOf(form.QSO_DU_Dep)->property("titres").toString(),
-             QStringLiteral("Un@4;Deux mots@7"));
-  }
-
   void AWidgetOfAnotherKindIsAProblem() {
     ControlBench<ArrayForm> bench;
     bench.Add(new QComboBox, "Date_A");

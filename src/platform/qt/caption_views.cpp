@@ -2,8 +2,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QRegularExpression>
-#include <algorithm>
 
 #include "platform/qt/qt_text.h"
 
@@ -26,18 +24,8 @@ void LabelView::Show(Property property) {
   // Blanks that once centred a caption by eye give way where the design centres it.
   const QString words = ToQt(control_.Caption());
   const QString shown = shown_.property("rogne").toBool() ? words.trimmed() : words;
-  if (auto* rows = dynamic_cast<RowsView*>(shown_.buddy())) HeadColumns(*rows, words);
   if (WithoutMnemonic(shown_.text()) == shown) return;
   shown_.setText(shown_.buddy() ? Escaped(shown) : shown);
-}
-
-void LabelView::HeadColumns(RowsView& rows, const QString& words) const {
-  static const QRegularExpression gap(QStringLiteral(" {2,}"));
-  const QStringList columns = shown_.property("sur_colonnes").toString().split(u';', Qt::SkipEmptyParts);
-  const QStringList titles = words.split(gap, Qt::SkipEmptyParts);
-  QStringList placed;
-  for (qsizetype i = 0; i < std::min(columns.size(), titles.size()); ++i) placed << titles[i] + u'@' + columns[i];
-  if (!placed.isEmpty()) rows.SetTitles(placed.join(u';'));
 }
 
 void LabelView::ShowColour() {

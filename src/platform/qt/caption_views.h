@@ -32,8 +32,7 @@ class CaptionLabel : public QLabel {
   const RowsView* rows_ = nullptr;
 };
 
-/// Shows the words of a label. One with the property "sur_colonnes" ("4;7;...") heads the list that is its buddy: its
-/// words, which blanks once set apart by eye, stand as that list's titles over these columns.
+/// Shows the words of a label.
 class LabelView : public ViewOf<Label, QLabel> {
  public:
   LabelView(Label& label, QLabel& shown, Gate& gate);
@@ -41,9 +40,6 @@ class LabelView : public ViewOf<Label, QLabel> {
  protected:
   void Show(Property property) override;
   void ShowColour() override;
-
- private:
-  void HeadColumns(RowsView& rows, const QString& words) const;
 };
 
 /// A frame: a group box with its caption as its title, or any widget, whose caption stands in its label

@@ -22,22 +22,28 @@ ProgramFolder Described(const QDir& folder) {
   return {path, FromQt(path), QFile::encodeName(path).toStdString()};
 }
 
-/// What lies in folders below (the manual, the maps) is the program's alone, and goes with its version; the files
-/// beside it become the user's once they are there.
-bool Outdated(const QString& name, const QString& source, const QString& target) {
-  return name.contains(u'/') && (QFileInfo(source).size() != QFileInfo(target).size() ||
-                                 QFileInfo(source).lastModified() > QFileInfo(target).lastModified());
+/// The folders of what is the program's alone, and goes with its version: the manual, the maps. The files beside them
+/// become the user's once they are there.
+const QStringList& OwnFolders() {
+  static const QStringList names = {QStringLiteral("manuel"), QStringLiteral("maps")};
+  return names;
 }
 
-/// Copies the files of a folder and of those in it; what is the user's stays. By way of another name, for a copy that
-/// is cut short not to pass for the whole.
-bool Seed(const QDir& from, const QDir& to, QString& problem) {
-  QDirIterator files(from.path(), QDir::Files, QDirIterator::Subdirectories);
+/// Whether the copy of a file is to be renewed; `name` is its path from the folder.
+bool Outdated(const QString& name, const QFileInfo& source, const QFileInfo& copy) {
+  return OwnFolders().contains(name.section(u'/', 0, 0)) &&
+         (source.size() != copy.size() || source.lastModified() > copy.lastModified());
+}
+
+/// Copies the files that lie `below` a folder; what is the user's stays. By way of another name, for a copy that is cut
+/// short not to pass for the whole.
+bool Seed(const QDir& from, const QString& below, const QDir& to, QString& problem) {
+  QDirIterator files(from.filePath(below), QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
     const QString name = from.relativeFilePath(files.next());
     const QString target = to.filePath(name);
     if (QFile::exists(target)) {
-      if (!Outdated(name, files.filePath(), target)) continue;
+      if (!Outdated(name, QFileInfo(files.filePath()), QFileInfo(target))) continue;
       QFile::remove(target);
     }
     const QString partial = target + QStringLiteral(".neuf");
@@ -76,11 +82,11 @@ std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QSt
     problem = QStringLiteral("Impossible de créer le dossier %1.").arg(folder.path());
     return std::nullopt;
   }
-  // Beside the program stand the program and whatever else is installed there: only the templates and maps are
-  // taken then.
+  // Beside the program stand the program and whatever else is installed there: only what is known by name is taken
+  // then.
   const QDir shared(own.filePath(QStringLiteral("../share/vorelio")));
   if (HoldsTemplates(shared)) {
-    if (!Seed(shared, folder, problem)) return std::nullopt;
+    if (!Seed(shared, QStringLiteral("."), folder, problem)) return std::nullopt;
   } else if (HoldsTemplates(own)) {
     for (const QString& name : TemplateFiles() + SoundFiles()) {
       const QString target = folder.filePath(name);
@@ -88,8 +94,8 @@ std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QSt
       problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
       return std::nullopt;
     }
-    const QString maps = QStringLiteral("maps");
-    if (!Seed(QDir(own.filePath(maps)), QDir(folder.filePath(maps)), problem)) return std::nullopt;
+    for (const QString& name : OwnFolders())
+      if (!Seed(own, name, folder, problem)) return std::nullopt;
     for (const QString& name : TemplateFiles())
       QFile::setPermissions(folder.filePath(name),
                             QFile::permissions(folder.filePath(name)) | QFile::WriteOwner | QFile::ReadOwner);

@@ -106,13 +106,6 @@ QSize RowsView::RowSize() const {
 
 void RowsView::SetWidest(int characters) { widest_ = characters; }
 
-void RowsView::SetTitles(const QString& titles) {
-  setProperty("titres", titles);
-  delete titles_;
-  titles_ = nullptr;
-  Arrange();
-}
-
 void RowsView::Arrange() {
   QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   // The desktop's fixed font counts for its face; its size follows the zoom of the windows.

@@ -36,9 +36,6 @@ class RowsView : public QListView {
   /// Rows as wide as this many characters.
   void SetWidest(int characters);
 
-  /// Puts other titles in place of those of the property.
-  void SetTitles(const QString& titles);
-
   /// Takes over font and titles, after either has changed.
   void Arrange();
 
