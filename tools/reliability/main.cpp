@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -104,9 +105,11 @@ Undisturbed Observe(const Deed& deed) {
 }
 
 void Try(const Deed& deed, int kills, std::mt19937& dice) {
-  const Undisturbed seen = Observe(deed);
+  // The shortest of some times: a machine that was busy with something else would spread the kills over idle moments.
+  Undisturbed seen = Observe(deed);
+  for (int i = 0; i < 7; ++i) seen.time = std::min(seen.time, Observe(deed).time);
   std::map<std::string, std::map<std::string, int>> counts;
-  std::uniform_int_distribution<long> moment(0, seen.time.count() * 11 / 10);
+  std::uniform_int_distribution<long> moment(0, seen.time.count() * 12 / 10);
   for (int i = 0; i < kills; ++i) {
     Worker worker(deed);
     const auto wait = Microseconds(moment(dice));
