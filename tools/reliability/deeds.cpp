@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "exchange/adif_import.h"
 #include "maintenance/backup.h"
+#include "qsl/qsl_window.h"
 #include "tallies/rebuild.h"
 
 namespace vorelio::reliability {
@@ -15,6 +16,8 @@ using bench::StationRun;
 void FillIn(StationRun& run) {
   run.TypeCallsign(bench::kStation);
   run.FillIn();
+  // The callsign goes into the directory.
+  run.Boxes().Answer(true);
 }
 
 void Save(StationRun& run) { run.Save(); }
@@ -32,6 +35,18 @@ void EditOne(StationRun& run) {
 void DeleteOne(StationRun& run) {
   run.Boxes().Answer(true);
   run.Run().Recoit([&] { run.Main().Effacer.UserClick(); });
+}
+
+void OpenCard(StationRun& run) {
+  run.Run().Recoit([&] {
+    run.Main().Liste_QSO.SetListIndex(kContacts / 2);
+    run.Main().Gestion_QSL.UserClick();
+    run.Run().Fenetre<QSL>().Check_Recu.UserClick();
+  });
+}
+
+void TakeCard(StationRun& run) {
+  run.Run().Recoit([&] { run.Run().Fenetre<QSL>().Enregistre.UserClick(); });
 }
 
 void WriteAdif(StationRun& run) {
@@ -75,6 +90,7 @@ const std::vector<Deed>& Deeds() {
                                           {"save, date by hand", DateMode::Manual, FillIn, Save},
                                           {"edit", DateMode::Automatic, EditOne, Save},
                                           {"delete", DateMode::Automatic, ShowOne, DeleteOne},
+                                          {"QSL card", DateMode::Automatic, OpenCard, TakeCard},
                                           {"import of 500", DateMode::Automatic, WriteAdif, Import},
                                           {"three rebuilds", DateMode::Automatic, {}, Rebuild},
                                           {"backup", DateMode::Automatic, SetBackup, BackUp}};
