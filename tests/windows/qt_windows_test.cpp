@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -53,15 +54,16 @@ class SeenMessages : public QtMessages {
 class SeenDialogs : public QtFileDialogs {
  public:
   using QtFileDialogs::QtFileDialogs;
-  QString path, filter, answer;
+  QString folder, filter, answer;
+  QStringList proposed;
 
  protected:
-  QString ExecuteOpen(const QString& folder, const QString& kinds) override {
-    path = folder;
-    filter = kinds;
+  QString Execute(QFileDialog& dialog) override {
+    folder = dialog.directory().path();
+    filter = dialog.nameFilters().join(u'+');
+    proposed = dialog.selectedFiles();
     return answer;
   }
-  QString ExecuteSave(const QString& proposed, const QString& kinds) override { return ExecuteOpen(proposed, kinds); }
 };
 
 }  // namespace
@@ -274,10 +276,11 @@ class QtWindowsTest : public QObject {
     RecordedMessages messages;
     SeenDialogs dialogs(windows, messages);
     dialogs.answer = QStringLiteral("/tmp/été.not");
-    QCOMPARE(dialogs.Open("/tmp", ".not |*.not"), "/tmp/été.not"_t);
-    QCOMPARE(dialogs.filter, QStringLiteral(".not (*.not);;Tous les fichiers (*)"));
+    QCOMPARE(dialogs.Save("/tmp", "", ".not |*.not"), "/tmp/été.not"_t);
+    QCOMPARE(dialogs.folder, QStringLiteral("/tmp"));
+    QCOMPARE(dialogs.filter, QStringLiteral(".not (*.not)+Tous les fichiers (*)"));
     QCOMPARE(dialogs.Save("/tmp", "F9QZX", ""), "/tmp/été.not"_t);
-    QCOMPARE(dialogs.path, QStringLiteral("/tmp/F9QZX"));
+    QCOMPARE(dialogs.proposed, QStringList{QStringLiteral("/tmp/F9QZX")});
     QCOMPARE(dialogs.filter, QStringLiteral("Tous les fichiers (*)"));
     dialogs.answer.clear();
     QVERIFY(dialogs.Open("/tmp", "").empty());

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include "core/text.h"
@@ -14,16 +13,17 @@ namespace vorelio {
 
 namespace {
 constexpr const char* kEverything = "Tous les fichiers (*)";
-}  // namespace
 
-QString ToQtFilter(const std::string& filter) {
+/// A filter "words|pattern|words|pattern..." in Qt's form, with all files as the last choice.
+QStringList ToQtFilters(const std::string& filter) {
   const QStringList parts = ToQt(filter).split(u'|', Qt::SkipEmptyParts);
   QStringList choices;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
     choices << QStringLiteral("%1 (%2)").arg(parts[i].trimmed(), QString(parts[i + 1]).replace(u';', u' ').trimmed());
-  choices << QLatin1String(kEverything);
-  return choices.join(QStringLiteral(";;"));
+  return choices << QLatin1String(kEverything);
 }
+
+}  // namespace
 
 std::string QtFileDialogs::Taken(const QString& path) {
   if (path.isEmpty()) return {};
@@ -38,28 +38,25 @@ std::string QtFileDialogs::Taken(const QString& path) {
 
 std::string QtFileDialogs::Open(const std::string& folder, const std::string& filter) {
   windows_.ShowPending();
-  return Taken(ExecuteOpen(ToQt(folder), ToQtFilter(filter)));
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Ouvrir"), ToQt(folder));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setNameFilters(ToQtFilters(filter));
+  return Taken(Execute(dialog));
 }
 
 std::string QtFileDialogs::Save(const std::string& folder, const std::string& name, const std::string& filter) {
   windows_.ShowPending();
-  return Taken(ExecuteSave(QDir(ToQt(folder)).filePath(ToQt(name)), ToQtFilter(filter)));
-}
-
-QString QtFileDialogs::ExecuteOpen(const QString& folder, const QString& filter) {
-  return QFileDialog::getOpenFileName(QApplication::activeWindow(), QStringLiteral("Ouvrir"), folder, filter);
-}
-
-QString QtFileDialogs::ExecuteSave(const QString& path, const QString& filter) {
-  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Enregistrer sous"));
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Enregistrer sous"), ToQt(folder));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setNameFilters(filter.split(QStringLiteral(";;")));
+  dialog.setNameFilters(ToQtFilters(filter));
   // A name without an ending gets the one under which the file is looked for later.
   static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)"));
-  dialog.setDefaultSuffix(ending.match(filter).captured(1));
-  const QFileInfo proposed(path);
-  dialog.setDirectory(proposed.path());
-  if (!proposed.isDir()) dialog.selectFile(proposed.fileName());
+  dialog.setDefaultSuffix(ending.match(ToQt(filter)).captured(1));
+  if (!name.empty()) dialog.selectFile(ToQt(name));
+  return Taken(Execute(dialog));
+}
+
+QString QtFileDialogs::Execute(QFileDialog& dialog) {
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -5,6 +5,8 @@
 
 #include "platform/platform.h"
 
+class QFileDialog;
+
 namespace vorelio {
 
 class MessageService;
@@ -19,9 +21,8 @@ class QtFileDialogs : public FileDialogService {
   std::string Save(const std::string& folder, const std::string& name, const std::string& filter) override;
 
  protected:
-  /// Show the dialog and wait; an empty answer is a dialog that was cancelled. `filter` is in Qt's form.
-  virtual QString ExecuteOpen(const QString& folder, const QString& filter);
-  virtual QString ExecuteSave(const QString& path, const QString& filter);
+  /// Shows the dialog and waits; an empty answer is a dialog that was cancelled.
+  virtual QString Execute(QFileDialog& dialog);
 
  private:
   std::string Taken(const QString& path);
@@ -29,8 +30,5 @@ class QtFileDialogs : public FileDialogService {
   QtWindows& windows_;
   MessageService& messages_;
 };
-
-/// A filter "words|pattern|words|pattern..." in Qt's form, with all files as the last choice.
-QString ToQtFilter(const std::string& filter);
 
 }  // namespace vorelio

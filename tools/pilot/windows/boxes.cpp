@@ -57,7 +57,6 @@ int PilotMessages::Execute(QMessageBox& box) {
 }
 
 // The dialog itself is the desktop's own: nothing of it is this program's but the words around it.
-QString PilotDialogs::ExecuteOpen(const QString&, const QString&) { return ToQt(script_.Choice()); }
-QString PilotDialogs::ExecuteSave(const QString&, const QString&) { return ToQt(script_.Choice()); }
+QString PilotDialogs::Execute(QFileDialog&) { return ToQt(script_.Choice()); }
 
 }  // namespace vorelio::pilot

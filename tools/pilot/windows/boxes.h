@@ -31,8 +31,7 @@ class PilotDialogs : public QtFileDialogs {
       : QtFileDialogs(windows, messages), script_(script) {}
 
  protected:
-  QString ExecuteOpen(const QString& folder, const QString& filter) override;
-  QString ExecuteSave(const QString& path, const QString& filter) override;
+  QString Execute(QFileDialog& dialog) override;
 
  private:
   Script& script_;
