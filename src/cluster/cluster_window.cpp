@@ -161,10 +161,10 @@ bool Cluster::Charge_Page() {
   return true;
 }
 
-/// The page in capitals, empty where the site has sent an empty one. No answer is run-time error 71.
+/// The page in capitals, empty where the site has sent an empty one. No answer is run-time error 71, and so is a site
+/// without an address: a path alone is no URL.
 std::string Cluster::Demande_Page() {
   const std::string adresse = Adresse_Complete(programme_.reglages.Commun(kCle_Adresse, ""));
-  if (adresse.empty()) throw Erreur_Execution(Erreur::Disque_Non_Pret);
   const std::string url = adresse + Chemin_De_Page(Bande_CL.ListIndex());
   std::string page = programme_.plateforme.pages.Fetch(url, kDelai_Page_s, [this] { return Abandonnee(); });
   Reste_Ouverte();

@@ -129,7 +129,7 @@ class Cluster : public Form {
   std::string Emetteur_Choisi_;
   std::array<std::uint8_t, 5> Bloc_CAT_{};   ///< Four parameters and the opcode.
   int port_com_ = 1;                         ///< The port that is opened next.
-  std::string reglage_port_ = "9600,n,8,1";  ///< Its speed and format; until told otherwise, those of most sets.
+  std::string reglage_port_ = "9600,n,8,1";  ///< Its speed and format; those of most sets, until others are chosen.
 };
 
 }  // namespace vorelio

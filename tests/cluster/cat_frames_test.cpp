@@ -20,7 +20,6 @@ TEST(CatFrames, FrequencyFromALine) {
   const Spot spot{"F9AAA       ", " 14195.0", "12-MAY 1234Z ", "ON9ZZ      ", ""};
   for (const Tri order : {Tri::QTR, Tri::Indicatif, Tri::QRG})
     EXPECT_EQ(Texte_Qrg(Ligne_De_Liste(spot, order), Colonne_Qrg(Famille_CAT::Yaesu, order)), "1419500");
-  EXPECT_EQ(Colonne_Qrg(Famille_CAT::Icom, Tri::QRG), 22);
   EXPECT_EQ(Texte_Qrg("", 1), "0");
   EXPECT_EQ(Texte_Qrg("  7040.5", 1), "7040.50");  // Eight characters: the point is one of the first seven.
 }

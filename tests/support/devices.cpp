@@ -66,12 +66,13 @@ void WireRecord::Write(const std::string& block) {
 
 std::string SiteRecord::Fetch(const std::string& url, int, const Abandoned& abandoned) {
   const std::size_t scheme = url.find("://");
-  const std::size_t path = url.find('/', scheme == std::string::npos ? 0 : scheme + 3);
+  const bool site = scheme != std::string::npos;
+  const std::size_t path = url.find('/', site ? scheme + 3 : 0);
   urls.push_back(url);
   fetched.push_back(path == std::string::npos ? std::string("/") : url.substr(path));
   if (OnFetch) OnFetch();
   const auto page = pages.find(fetched.back());
-  const auto text = page == pages.end() ? std::nullopt : page->second();
+  const auto text = site && page != pages.end() ? page->second() : std::nullopt;
   if (!text || abandoned()) throw Erreur_Execution(Erreur::Disque_Non_Pret, url);
   return *text;
 }

@@ -11,9 +11,9 @@ namespace {
 
 // --- Preparing and acting -------------------------------------------------------------------------------------------
 
-/// A site that a scenario speaks of has an address.
+/// A site that a scenario speaks of has an address, unless the scenario has emptied it.
 void GiveSiteAnAddress(SettingsStore& settings) {
-  if (settings.Read("DDFM", "Setup", "Adresse Cluster").value_or("").empty())
+  if (!settings.Read("DDFM", "Setup", "Adresse Cluster"))
     settings.Write("DDFM", "Setup", "Adresse Cluster", "http://cluster.invalid");
 }
 
