@@ -158,7 +158,7 @@ class DevicesTest : public QObject {
     QTimer::singleShot(50, &windows, [&] { closed = true; });
     QCOMPARE(ErrorOf([&] { pages.Fetch(site.Address() + "/", 60, [&] { return closed; }); }), 71);
     QVERIFY(time.elapsed() < 3000);
-    for (const char* url : {"file:///etc/passwd", "", "http://", "ftp://127.0.0.1/"})
+    for (const char* url : {"file:///etc/passwd", "/dxc/a.html", "http://", "ftp://127.0.0.1/"})
       QCOMPARE(ErrorOf([&] { pages.Fetch(url, 1, [] { return false; }); }), 71);
   }
 
