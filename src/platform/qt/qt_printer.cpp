@@ -172,8 +172,10 @@ bool QtPrinter::Execute(QPrintDialog& dialog) { return dialog.exec() == QDialog:
 bool QtPrinter::Choose() {
   windows_.ShowPending();
   QPrinter& printer = Target();
-  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString proposed = QDir(documents).filePath(QStringLiteral("Vorelio.pdf"));
+  // The dialog refuses a file in a folder that isn't there.
+  QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  if (!documents.exists()) documents.setPath(QDir::homePath());
+  const QString proposed = documents.filePath(QStringLiteral("Vorelio.pdf"));
   if (printer.outputFormat() == QPrinter::PdfFormat) printer.setOutputFileName(file_.isEmpty() ? proposed : file_);
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Imprimer"));
@@ -189,7 +191,6 @@ bool QtPrinter::Choose() {
     return true;
   }
   if (!Ready()) {
-    QDir().mkpath(documents);
     PrintTo(proposed);
     printed_ = QFileInfo::exists(proposed) ? 1 : 0;
     messages_.Show("Aucune imprimante n'est installée : les pages seront dans le fichier\r\n"_t + FromQt(NextFile()));
