@@ -353,7 +353,13 @@ class QtWindowsTest : public QObject {
     QCOMPARE(bench.programme.Focus(), &main.Dpt(1));
     QTest::keyClick(bench.windows.WindowOf(main), Qt::Key_J, Qt::ControlModifier);
     QCOMPARE(bench.programme.Focus(), &main.Liste_QSO);
+    // The desktop's change is followed as long as nothing else was chosen.
+    look.DesktopChanged(true);
+    QVERIFY(look.Dark());
+    QCOMPARE(QApplication::palette().color(QPalette::Window), ThemePalette(true).color(QPalette::Window));
     look.SetTheme(Appearance::Theme::Dark);
+    look.DesktopChanged(false);
+    QVERIFY(look.Dark());
     QCOMPARE(look.Zoom(), 120);
     QCOMPARE(bench.windows.WidgetOf(main.Liste_QSO)->font().pointSizeF(), before.pointSizeF() * 1.2);
     bench.windows.WindowOf(main)->close();

@@ -129,9 +129,16 @@ Appearance::Appearance(QSettings& memory)
       zoom_(std::clamp(memory.value(QStringLiteral("Affichage/Zoom"), 100).toInt(), kSmallest, kLargest)) {
   QApplication::setStyle(new VorelioStyle);
   Apply();
+  FollowDesktop(following_, [this](bool dark) { DesktopChanged(dark); });
 }
 
 bool Appearance::Dark() const { return theme_ == Theme::System ? desktop_dark_ : theme_ == Theme::Dark; }
+
+void Appearance::DesktopChanged(bool dark) {
+  if (dark == desktop_dark_) return;
+  desktop_dark_ = dark;
+  if (theme_ == Theme::System) Apply();
+}
 
 void Appearance::SetTheme(Theme theme) {
   theme_ = theme;

@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QSettings>
 #include <QWidget>
+#include <functional>
 
 namespace vorelio {
 
@@ -24,6 +25,8 @@ class Appearance {
   Theme CurrentTheme() const { return theme_; }
   void SetTheme(Theme theme);
   bool Dark() const;
+  /// The desktop has become dark, or light.
+  void DesktopChanged(bool dark);
 
   int Zoom() const { return zoom_; }
   /// Clipped to the bounds above.
@@ -40,6 +43,7 @@ class Appearance {
   bool desktop_dark_;
   Theme theme_;
   int zoom_;
+  QObject following_;  ///< What hears the desktop belongs to it.
 };
 
 /// The palette of the light or the dark theme.
@@ -47,5 +51,8 @@ QPalette ThemePalette(bool dark);
 
 /// Whether the desktop says that it is dark.
 bool DesktopIsDark();
+
+/// Calls `changed` whenever the desktop becomes dark or light, as long as `owner` lives.
+void FollowDesktop(QObject& owner, std::function<void(bool dark)> changed);
 
 }  // namespace vorelio
