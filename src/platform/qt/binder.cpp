@@ -97,9 +97,8 @@ QString SpokenName(const QWidget& widget, const Control& control) {
   for (const QLabel* label : widget.window()->findChildren<QLabel*>())
     if (label->buddy() == &widget) return WithoutMnemonic(label->text()).trimmed();
   if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return WithoutMnemonic(button->text());
-  if (const auto* captioned = dynamic_cast<const Captioned*>(&control); captioned && !captioned->Caption().empty())
-    return ToQt(captioned->Caption()).trimmed();
-  return ToQt(control.Name()).replace(u'_', u' ');
+  const auto* captioned = dynamic_cast<const Captioned*>(&control);
+  return captioned ? ToQt(captioned->Caption()).trimmed() : QString();
 }
 
 }  // namespace
@@ -149,6 +148,13 @@ QString TitlesOf(const QGridLayout& grid, const Place& place) {
   return words.join(QStringLiteral(", "));
 }
 
+/// The first cell is in the tab chain; to the others lead the arrow keys.
+void LetIn(const QWidget& holder, QWidget& cell) {
+  for (const auto* other : holder.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly))
+    if (other->focusPolicy() & Qt::TabFocus) return;
+  cell.setFocusPolicy(Qt::StrongFocus);
+}
+
 }  // namespace
 
 /// A field that a picture of its form has a place for. The board's property "cases" is what each of them is called,
@@ -165,6 +171,7 @@ QObject* Binding::LayOnPicture(Control& control, QWidget& window) {
     cell->setObjectName(ToQt(control.Name()));
     cell->setAccessibleName(board->property("cases").toString() + u' ' + ToQt(control.Words()));
     board->Lay(*cell, {place->left, place->top, place->width, place->height});
+    if (control.Visible()) LetIn(*board, *cell);
     return cell;
   }
   return nullptr;
@@ -196,6 +203,7 @@ QObject* Binding::Fill(Control& control, QWidget& window) {
   if (auto* figure = table ? qobject_cast<QLineEdit*>(cell) : nullptr)
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   grid->addWidget(cell, place.row, place.column);
+  if (dynamic_cast<GridCell*>(cell) && !holder->property("hors_chaine").toBool()) LetIn(*holder, *cell);
   return cell;
 }
 

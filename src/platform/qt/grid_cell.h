@@ -4,7 +4,8 @@
 
 namespace vorelio {
 
-/// A cell of a grid of fields: out of the tab chain, reached by a click or from its neighbours with the arrow keys.
+/// A cell of a grid of fields: reached by a click or from its neighbours with the arrow keys. Only the first one is in
+/// the tab chain, and not even that where the grid has the property "hors_chaine".
 class GridCell : public QLineEdit {
  public:
   explicit GridCell(QWidget& holder);

@@ -55,7 +55,8 @@ class PictureBoard : public QWidget {
   bool absent_ = false;
 };
 
-/// A field on a board: out of the tab chain, reached by a click, or from another one with the arrow keys.
+/// A field on a board: reached by a click, or from another one with the arrow keys. Only the first one that can be seen
+/// is in the tab chain.
 class PictureCell : public QLineEdit {
  public:
   explicit PictureCell(PictureBoard& board);

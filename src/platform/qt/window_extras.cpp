@@ -54,7 +54,7 @@ bool WindowExtras::Restore(const QString& name, QWidget& window) {
 }
 
 void WindowExtras::AddViewMenu(QMainWindow& window) {
-  auto* menu = new QMenu(QStringLiteral("Affic&hage"), &window);
+  auto* menu = new QMenu(QStringLiteral("Afficha&ge"), &window);
   menu->setObjectName(QStringLiteral("titre_affichage"));
   const auto add = [&](QMenu& to, const QString& words, const QList<QKeySequence>& keys, auto action) {
     QAction* entry = to.addAction(words);

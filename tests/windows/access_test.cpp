@@ -1,0 +1,189 @@
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <map>
+#include <set>
+
+#include "platform/qt/qt_text.h"
+#include "platform/qt/window_extras.h"
+#include "windows/every_form.h"
+
+namespace vorelio::tests {
+
+namespace {
+
+QString Mnemonic(const QString& text) {
+  for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+    if (text[i] != u'&') continue;
+    if (text[i + 1] != u'&') return text.mid(i + 1, 1).toUpper();
+    ++i;
+  }
+  return {};
+}
+
+/// What screen readers make a stop at.
+bool Worked(const QAccessibleInterface& node) {
+  switch (node.role()) {
+    case QAccessible::PushButton:
+    case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
+    case QAccessible::EditableText:
+    case QAccessible::ComboBox:
+    case QAccessible::List:
+    case QAccessible::ListItem:
+    case QAccessible::MenuItem:
+    case QAccessible::PageTab: return true;
+    // Words that can be selected are their own name.
+    case QAccessible::StaticText: return false;
+    default: return node.state().focusable;
+  }
+}
+
+/// Notes what of a window a screen reader would have no words for.
+void LookForNameless(QAccessibleInterface& node, QStringList& problems) {
+  for (int i = 0; i < node.childCount(); ++i) {
+    QAccessibleInterface* child = node.child(i);
+    if (!child) continue;
+    const QAccessible::Role role = child->role();
+    const QString name = child->text(QAccessible::Name).trimmed();
+    const QString id = child->object() ? child->object()->objectName() : QString();
+    if (Worked(*child)) {
+      if (name.isEmpty()) problems << id + QStringLiteral(": no name, role %1").arg(role);
+      if (name.contains(u'&')) problems << id + QStringLiteral(": ") + name;
+      if (role == QAccessible::NoRole || role == QAccessible::Client) problems << id + QStringLiteral(": no role");
+    }
+    // The list and the field of a combo box are spoken as the box.
+    if (role != QAccessible::ComboBox) LookForNameless(*child, problems);
+  }
+}
+
+/// Fields, lists, boxes and buttons, without the parts that they are made of.
+QList<QWidget*> Inputs(const QWidget& window) {
+  QList<QWidget*> inputs;
+  for (auto* widget : window.findChildren<QWidget*>()) {
+    const bool input = qobject_cast<QLineEdit*>(widget) || qobject_cast<QPlainTextEdit*>(widget) ||
+                       qobject_cast<QComboBox*>(widget) || qobject_cast<QAbstractItemView*>(widget) ||
+                       qobject_cast<QAbstractButton*>(widget);
+    bool part = widget->objectName().startsWith(QLatin1String("qt_"));
+    for (const QWidget* above = widget->parentWidget(); above; above = above->parentWidget())
+      part = part || qobject_cast<const QComboBox*>(above) || qobject_cast<const QMenu*>(above);
+    if (input && !part) inputs << widget;
+  }
+  return inputs;
+}
+
+bool ReadOnly(const QWidget& widget) {
+  const auto* line = qobject_cast<const QLineEdit*>(&widget);
+  return line && line->isReadOnly();
+}
+
+}  // namespace
+
+/// Every window without a mouse, and without being seen.
+class AccessTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void EveryControlCanBeSpoken_data() { AddForms(); }
+  void EveryControlCanBeSpoken() {
+    QFETCH(int, number);
+    Bound bound(kForms[number], Furnisher());
+    for (Control* control : bound.form->Controls())
+      if (auto* list = dynamic_cast<ListBox*>(control)) list->AddItem("F6ABC");
+    bound.bench.windows.ShowPending();
+    QStringList problems;
+    LookForNameless(*QAccessible::queryAccessibleInterface(&bound.Window()), problems);
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+  }
+
+  void MnemonicsDoNotClash_data() { AddForms(); }
+  void MnemonicsDoNotClash() {
+    QFETCH(int, number);
+    Bound bound(kForms[number], Furnisher());
+    std::map<QString, QString> taken;
+    const auto take = [&](const QString& text) {
+      const QString letter = Mnemonic(text);
+      if (letter.isEmpty()) return;
+      QVERIFY2(!taken.contains(letter), qPrintable(text + QStringLiteral(" / ") + taken[letter]));
+      taken[letter] = text;
+    };
+    for (const auto* label : bound.Window().findChildren<QLabel*>())
+      if (label->buddy()) take(label->text());
+    for (const auto* button : bound.Window().findChildren<QAbstractButton*>()) take(button->text());
+    if (const auto* main = qobject_cast<QMainWindow*>(&bound.Window()))
+      for (const auto* entry : main->menuBar()->actions()) take(entry->text());
+    // Nothing of a menu can be reached by a letter but by its own.
+    for (const QMenu* menu : bound.Window().findChildren<QMenu*>()) {
+      QVERIFY2(!Mnemonic(menu->title()).isEmpty(), qPrintable(menu->title()));
+      std::set<QString> within;
+      for (const QAction* entry : menu->actions())
+        if (!entry->isSeparator())
+          QVERIFY2(!Mnemonic(entry->text()).isEmpty() && within.insert(Mnemonic(entry->text())).second,
+                   qPrintable(entry->text()));
+    }
+  }
+
+  void EveryWindowIsWorkedByTheKeyboard_data() { AddForms(); }
+  void EveryWindowIsWorkedByTheKeyboard() {
+    QFETCH(int, number);
+    Bound bound(kForms[number], Furnisher());
+    // From cell to cell lead the arrow keys: one of them has to be reached.
+    std::map<const QWidget*, bool> boards;
+    for (const QWidget* widget : Inputs(bound.Window())) {
+      // The colours of a legend.
+      if (ReadOnly(*widget) && widget->focusPolicy() == Qt::NoFocus) continue;
+      const bool in_chain = widget->focusPolicy() & Qt::TabFocus;
+      if (widget->property("cellule").toBool())
+        boards[widget->parentWidget()] |= in_chain && !widget->isHidden();
+      else
+        QVERIFY2(in_chain || ReadOnly(*widget), qPrintable(widget->objectName()));
+    }
+    for (const auto& [board, reached] : boards) {
+      const bool by_shortcut = bound.form->Main() && board->objectName() == QLatin1String("Dpt");
+      QVERIFY2(reached || by_shortcut, qPrintable(board->objectName()));
+    }
+  }
+
+  void TheTabChainIsTheEntryChain() {
+    Bound bound(Make<DDFM>);
+    auto& main = static_cast<DDFM&>(*bound.form);
+    const Control* chain[] = {
+        &main.Bande_A,    &main.Indicatif_A, &main.Depart_A,    &main.Locator_A, &main.Mode_A,     &main.Activ_A,
+        &main.Date_A,     &main.Debut_A,     &main.Fin_A,       &main.RSTE_A,    &main.RSTR_A,     &main.Prenom_A,
+        &main.QTH_A,      &main.Remarques_A, &main.Enregistrer, &main.Annuler,   &main.Editer,     &main.Effacer,
+        &main.Recherche,  &main.Gestion_QSL, &main.Exporter,    &main.Command1,  &main.Option1(1), &main.Option1(0),
+        &main.Bande_DDFM, &main.Carre_DDFM,  &main.Liste_QSO};
+    QStringList expected, found;
+    for (const Control* control : chain) expected << bound.bench.windows.WidgetOf(*control)->objectName();
+    const QWidget* first = bound.bench.windows.WidgetOf(main.Bande_A);
+    const QWidget* widget = first;
+    do {
+      if (expected.contains(widget->objectName())) found << widget->objectName();
+      QVERIFY(!widget->objectName().startsWith(QLatin1String("Dpt(")) || !(widget->focusPolicy() & Qt::TabFocus));
+      widget = widget->nextInFocusChain();
+    } while (widget != first);
+    QCOMPARE(found, expected);
+  }
+
+ private:
+  decltype(QtWindows::Furnish) Furnisher() {
+    return [this](const Form& form, QWidget& window) { return extras_.Furnish(form, window); };
+  }
+
+  ScratchFolder folder_;
+  QSettings memory_{QString::fromStdString(folder_.File("Fenetres.ini")), QSettings::IniFormat};
+  Appearance look_{memory_};
+  WindowExtras extras_{look_, memory_};
+};
+
+const InSuite<AccessTest> kAccessTest;
+
+}  // namespace vorelio::tests
+
+#include "access_test.moc"

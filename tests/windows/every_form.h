@@ -1,0 +1,108 @@
+#pragma once
+
+#include <memory>
+
+#include "cluster/cluster_settings_windows.h"
+#include "cluster/cluster_window.h"
+#include "cluster/memory_window.h"
+#include "core/error_window.h"
+#include "core/loading_window.h"
+#include "core/station_form.h"
+#include "entry/ddfm.h"
+#include "exchange/award_export_window.h"
+#include "exchange/export_adif_window.h"
+#include "maintenance/add_activity_window.h"
+#include "maintenance/backup_settings_window.h"
+#include "maintenance/notes_window.h"
+#include "maintenance/restore_activities_window.h"
+#include "printing/labels_window.h"
+#include "printing/print_activity_window.h"
+#include "printing/print_log_window.h"
+#include "printing/select_qso_window.h"
+#include "qsl/multi_qsl_window.h"
+#include "qsl/qsl_window.h"
+#include "tallies/add_prefix_window.h"
+#include "tallies/directory_window.h"
+#include "tallies/prefix_statistics_window.h"
+#include "tallies/progress_window.h"
+#include "views/activation_statistics_window.h"
+#include "views/activity_map.h"
+#include "views/department_map.h"
+#include "views/department_window.h"
+#include "views/distance_statistics_window.h"
+#include "views/locator_maps.h"
+#include "views/qso_statistics_window.h"
+#include "views/search_window.h"
+#include "windows/windows_bench.h"
+
+namespace vorelio::tests {
+
+using Maker = std::unique_ptr<Form> (*)(Programme&);
+
+template <typename F>
+std::unique_ptr<Form> Make(Programme& programme) {
+  return std::make_unique<F>(programme);
+}
+
+/// Every window of the program. A new one that isn't added here fails the test on the .ui files.
+inline constexpr Maker kForms[] = {Make<DDFM>,
+                                   Make<Chargement>,
+                                   Make<Station>,
+                                   Make<Gestion_Erreur>,
+                                   Make<Ajout_Prefixe>,
+                                   Make<Progression>,
+                                   Make<Statistique_Prefixe>,
+                                   Make<Statistique_QSO>,
+                                   Make<Statistiques>,
+                                   Make<Statistique_DFCF>,
+                                   Make<Recherche_Indicatif>,
+                                   Make<Print_Log>,
+                                   Make<Print_Activite>,
+                                   Make<Affiche_Dpt>,
+                                   Make<Fichier_Nomenclature>,
+                                   Make<Ajout_Activite>,
+                                   Make<Delta_QSO>,
+                                   Make<Exporter_QSO>,
+                                   Make<Export_Adif>,
+                                   Make<Restoration_Activite>,
+                                   Make<QSL>,
+                                   Make<Multi_QSL>,
+                                   Make<Select_QSO>,
+                                   Make<Etiquettes>,
+                                   Make<Notes>,
+                                   Make<Cluster>,
+                                   Make<Memoire_CL>,
+                                   Make<Adresse_Cluster>,
+                                   Make<Ports_Serie>,
+                                   Make<Carte>,
+                                   Make<Carte_Acti>,
+                                   Make<Select_Locator>,
+                                   Make<Carte_IM>,
+                                   Make<Carte_IN>,
+                                   Make<Carte_IO>,
+                                   Make<Carte_JM>,
+                                   Make<Carte_JN>,
+                                   Make<Carte_JO>,
+                                   Make<Carte_KM>,
+                                   Make<Carte_KN>,
+                                   Make<Carte_KO>};
+
+/// A form with its window, without its being loaded.
+struct Bound {
+  /// `furnish` adds what the program itself has in its windows, such as the view menu.
+  explicit Bound(Maker make, decltype(QtWindows::Furnish) furnish = {}) : form(make(bench.programme)) {
+    bench.windows.Furnish = std::move(furnish);
+    bench.windows.Created(*form);
+  }
+  ~Bound() { bench.windows.Destroyed(*form); }
+
+  QWidget& Window() { return *bench.windows.WindowOf(*form); }
+
+  WindowsBench bench;
+  std::unique_ptr<Form> form;
+};
+
+/// A row for each of them, with its `number`.
+void AddForms();
+
+}  // namespace vorelio::tests
