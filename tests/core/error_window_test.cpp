@@ -33,30 +33,6 @@ class ErrorWindowTest : public StationFixture {
   int waits = 0;
 };
 
-TEST_F(ErrorWindowTest, MissingFileNamesItAndNeverResumes) {
-  Miss([&](Gestion_Erreur& window) {
-    EXPECT_EQ(window.Title(), "Erreur");
-    EXPECT_TRUE(window.Visible());
-    EXPECT_EQ(window.Ind_Station.Caption(), "F9QZX_P");
-    EXPECT_EQ(window.Ind_Station1.Caption(), "F9QZX_P");
-    EXPECT_EQ(window.Err_Departement.Caption(), "_Prefixe.txt");
-    if (waits == 3) window.Quitter.UserClick();
-  });
-  EXPECT_EQ(waits, 3);
-  EXPECT_FALSE(resumed);
-  EXPECT_TRUE(programme->Termine_Deja());
-  EXPECT_EQ(programme->Erreur_Fatale(), 0);
-  EXPECT_EQ(settings.Get("Setup", "Indicatif Station"), "F9QZX_P");
-}
-
-TEST_F(ErrorWindowTest, InitialisationGoesBackToTheFirstRun) {
-  Miss([](Gestion_Erreur& window) { window.Initialisation.UserClick(); });
-  EXPECT_FALSE(resumed);
-  EXPECT_TRUE(programme->Termine_Deja());
-  EXPECT_EQ(settings.Get("Setup", "Indicatif Station"), "FXXXX");
-  EXPECT_EQ(settings.Get("Setup", "Locator Station"), "------");
-}
-
 TEST_F(ErrorWindowTest, ClosingTheWindowEndsTheProgramToo) {
   Miss([](Gestion_Erreur& window) { window.UserClose(); });
   EXPECT_FALSE(resumed);

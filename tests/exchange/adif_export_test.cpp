@@ -142,19 +142,6 @@ class AdifExportWindow : public StationFixture {
   const Lines incomplete{"Entrez un N\xB0 de debut et de fin de QSO"};
 };
 
-TEST_F(AdifExportWindow, TheWholeLogOverAnOlderFile) {
-  Write("F9QZX_M.adi", std::string(5000, 'x'));
-  Export();
-  EXPECT_EQ(messages.TakeMessages(), done);
-  EXPECT_EQ(programme->Ouverte<Export_Adif>(), nullptr);
-  EXPECT_EQ(disk.Log(), (Lines{"read F9QZX_M.log", "write F9QZX_M.adi"}));
-  const std::string text = Read("F9QZX_M.adi");
-  EXPECT_EQ(text.find("Exportation du log Vorelio de F9QZX/M au format ADIF\r\n\r\nVorelio "), 0U);
-  EXPECT_NE(text.find("\r\n\r\n\r\n<eoh>\r\n<call:4>F1AA<name"), std::string::npos);
-  EXPECT_EQ(Calls(), (Lines{"F1AA", "F2BB", "F3CC", "F4DD"}));
-  EXPECT_TRUE(text.ends_with("<eor>\r\n"));
-}
-
 TEST_F(AdifExportWindow, FromNumberToNumber) {
   const struct {
     const char *from, *to;
@@ -183,30 +170,6 @@ TEST_F(AdifExportWindow, FromNumberToNumber) {
     EXPECT_EQ(programme->Ouverte<Export_Adif>() == nullptr, written);
     EXPECT_EQ(folder.Exists("F9QZX_M.adi"), written);
   }
-}
-
-TEST_F(AdifExportWindow, HiddenNumbersStillCount) {
-  EXPECT_TRUE(Window().Option1.Set());
-  const auto shown = [this] {
-    return Window().Debut_Ligne.Visible() && Window().Fin_Ligne.Visible() && Window().Label1.Visible() &&
-           Window().Label2.Visible();
-  };
-  EXPECT_FALSE(Window().Debut_Ligne.Visible() || Window().Fin_Ligne.Visible() || Window().Label1.Visible() ||
-               Window().Label2.Visible());
-  for (const auto& [from, to, boxes] : {std::tuple{"3", "2", reversed}, std::tuple{"1", "5", past_the_end}}) {
-    Numbers(from, to);
-    EXPECT_TRUE(shown());
-    Event([this] { Window().Option1.UserClick(); });
-    EXPECT_FALSE(shown());
-    Export();
-    EXPECT_EQ(messages.TakeMessages(), boxes);
-    EXPECT_FALSE(folder.Exists("F9QZX_M.adi"));
-  }
-  // Within the log they choose nothing: all of it goes out.
-  Numbers("2", "3");
-  Event([this] { Window().Option1.UserClick(); });
-  Export();
-  EXPECT_EQ(Calls().size(), 4U);
 }
 
 TEST_F(AdifExportWindow, AnErrorOfTheFilesIsToldAndTheWindowStays) {

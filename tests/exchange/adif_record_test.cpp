@@ -23,40 +23,6 @@ std::string Columns(const std::string& line, const Champ& field) {
   return std::string(Coupe(line, field.colonne, field.largeur + field.ecart));
 }
 
-TEST(AdifRecord, MakesALineOfWhatOtherProgramsWrite) {
-  struct {
-    const char* record;
-    const char* line;
-  } const cases[] = {
-      // A contest logger: serial numbers, six-digit times, frequency in kHz precision.
-      {"<CALL:6>DL1XYZ<QSO_DATE:8>20231028<TIME_ON:6>140312<TIME_OFF:6>140312<BAND:3>20M<STATION_CALLSIGN:5>F9QZX"
-       "<FREQ:8>14.25300<CONTEST_ID:9>CQ-WW-SSB<FREQ_RX:8>14.25300<MODE:3>SSB<RST_RCVD:2>59<RST_SENT:2>59<STX:1>1"
-       "<SRX:2>14<APP_LOGGER_ID:4>a1b2<EOR>",
-       "28/10/23  DL1XYZ      14:03  14:03               14 Mhz    SSB      591       5914        "},
-      // A digital-mode program: lower-case tags, blanks between the fields.
-      {"<call:5>F4VRL <gridsquare:4>JN18 <mode:3>FT8 <rst_sent:3>-12 <rst_rcvd:3>-07 <qso_date:8>20240102 "
-       "<time_on:6>235945 <qso_date_off:8>20240103 <time_off:6>000045 <band:2>6m <freq:9>50.313512 "
-       "<station_callsign:5>F9QZX <my_gridsquare:6>JN33BB <tx_pwr:2>50 <comment:14>FT8  Sent: -12 <eor>",
-       "02/01/24  F4VRL       23:59  00:00       JN18    50 Mhz    FT8      -12       -07         "},
-      // An online logbook: one field a line in its own files, joined here; accents and states.
-      {"<APP_LOG_OWNCALL:5>F9QZX<STATION_CALLSIGN:5>F9QZX<CALL:6>VE2ABC<BAND:3>40M<MODE:2>CW<QSO_DATE:8>20191231"
-       "<TIME_ON:6>000100<QSL_RCVD:1>Y<QSL_SENT:1>N<STATE:2>QC<NAME:4>Ren\xE9<QTH:8>Montr\xE9"
-       "al<eor>",
-       "31/12/19  VE2ABC      00:01  00:01               7.0 Mhz   CW       XX        XX        MONTR\xC9"
-       "AL"
-       "              REN\xC9               "},
-  };
-  for (const auto& c : cases) {
-    const auto read = Convert(c.record);
-    EXPECT_FALSE(read.erreur) << c.record;
-    EXPECT_TRUE(read.messages.empty()) << c.record;
-    EXPECT_EQ(read.ligne.size(), 199U);
-    EXPECT_EQ(read.ligne.substr(0, std::string_view(c.line).size()), c.line);
-    EXPECT_EQ(read.ligne.substr(135, 33), Blancs(29) + "0   ");
-    EXPECT_EQ(read.ligne.back(), '*');
-  }
-}
-
 TEST(AdifRecord, FieldsOneByOne) {
   struct {
     const char* record;

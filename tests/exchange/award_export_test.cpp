@@ -152,53 +152,6 @@ TEST_F(AwardExportWindow, SaysWhatIsMissing) {
   EXPECT_EQ(disk.Log(), Lines{});
 }
 
-TEST_F(AwardExportWindow, IndicatifBecomesAliveOnlyForAnAward) {
-  auto& callsign = programme->Fenetre<DDFM>().Indicatif_A;
-  for (const auto& [qth, enabled] : {std::pair{"NICE", false}, std::pair{"DMF 59025", true}}) {
-    callsign.SetEnabled(false);
-    Open(qth);
-    EXPECT_EQ(callsign.Enabled(), enabled);
-    Event([this] { Window().C_Non.UserClick(); });
-  }
-  EXPECT_EQ(programme->Focus(), &callsign);
-}
-
-TEST_F(AwardExportWindow, AddsTheLineOrTellsTheDate) {
-  const struct {
-    const char *application, *qth, *file, *box, *area;
-  } cases[] = {
-      {"Tournoi_DFCF", "DFCF 89125", "F6ABC_Tournoi_DFCF_2003.txt", "DFCF 89125", nullptr},
-      {"Tournoi_DMF", "DMF 59025", "F6ABC_Tournoi_DMF_2003.txt", "DMF 59025", nullptr},
-      {"DCI", "DCI IM122", "F6ABC_DCI.log", "DCI IM122", "IM Nouvelle Province"},
-      {"DAI", "DAI PM0571", "F6ABC_DAI.log", "DAI PM0571", "PM Nouvelle Region"},
-      {"DPLF", "DPLF PB141", "F6ABC_DPLF.log", "DPLF PB141", nullptr},
-  };
-  std::size_t award = 0;
-  for (const auto& test : cases) {
-    Install(test.application);
-    const std::string file = std::string("companion/") + test.file;
-    Write(file, "a line of the companion\r\n");
-    const std::string line = Ligne_Compagnon(kCompagnons[award++], Item(test.qth));
-
-    disk.Forget();
-    Open(test.qth);
-    Export();
-    EXPECT_EQ(Read(file), "a line of the companion\r\n" + line + "\r\n");
-    EXPECT_EQ(disk.Log(), (Lines{"read " + file, "append " + file}));
-    EXPECT_EQ(messages.TakeMessages(), test.area ? Lines{test.area} : Lines{});
-    EXPECT_EQ(programme->Ouverte<Exporter_QSO>(), nullptr);
-
-    disk.Forget();
-    Open(test.qth);
-    Export();
-    EXPECT_EQ(disk.Log(), Lines{"read " + file});
-    EXPECT_EQ(messages.TakeMessages(), Lines{std::string("Activation ") + test.box +
-                                             " deja contact\xE9"
-                                             "e le 12/05/03"});
-    EXPECT_EQ(programme->Ouverte<Exporter_QSO>(), nullptr);
-  }
-}
-
 TEST_F(AwardExportWindow, TheCompanionsStationBecomesTheRuns) {
   for (const auto& [application, qth, file] :
        {std::tuple{"Tournoi_DMF", "DMF 59025", "companion/F6ZZZ_P_Tournoi_DMF_2003.txt"},

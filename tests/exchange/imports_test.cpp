@@ -2,7 +2,6 @@
 #include "core/log_file.h"
 #include "core/log_line.h"
 #include "entry/ddfm.h"
-#include "exchange/adif_export.h"
 #include "exchange/adif_import.h"
 #include "exchange/century.h"
 #include "exchange/edi_import.h"
@@ -304,58 +303,6 @@ TEST_F(Imports, NativeLinesComeInAsTheyStand) {
   Ctf_Lines({line});
   EXPECT_EQ(Calls("F9QZX.log"), "A N N ");
   EXPECT_EQ(Status(), De_Utf8("Import CTF : 1 enregistrement lu, 1 ligne ajoutée"));
-}
-
-TEST_F(Imports, ShowsTheLogAndWhatHasComeIn) {
-  Start({Contact("12/05/03", "12:34", "A")});
-  Adif_Lines({Adif("20030513", "0000", "N"), Adif("20030513", "0000", "M")});
-  auto& ddfm = *programme->Ouverte<DDFM>();
-  EXPECT_EQ(ddfm.Liste_QSO.Count(), 3);
-  EXPECT_EQ(ddfm.Liste_QSO.ListIndex(), 2);
-  EXPECT_EQ(programme->saisie.Ligne_Selection.substr(16, 2), "M ");
-  EXPECT_EQ(ddfm.Frame4.Caption(), De_Utf8("QSO numéro 4"));
-  EXPECT_EQ(Status(), De_Utf8("Import ADIF : 2 enregistrements lus, 2 lignes ajoutées"));
-  EXPECT_TRUE(ddfm.Mnu_Import_EDI.Enabled());
-}
-
-TEST_F(Imports, WhatSurvivesAnExportAndItsImport) {
-  Champs_QSO qso;
-  qso.Date_A = "12/05/03";
-  qso.Indicatif_A = "F6ABC/P";
-  qso.Debut_A = "10:00";
-  qso.Fin_A = "10:05";
-  qso.Depart_A = "06";
-  qso.Locator_A = "JN33BB";
-  qso.Bande_A = "144 Mhz";
-  qso.Mode_A = "SSB";
-  qso.RSTE_A = "59";
-  qso.RSTR_A = "57";
-  qso.QTH_A = "Nice";
-  qso.Prenom_A = "Zo\xE9";
-  qso.Bloc_QSL = Blancs(7) + "4 14/05/03 15/05/03 ";
-  qso.Distance_A = "123";
-  qso.Azimut_A = "45";
-  qso.Activ_A = "3";
-  qso.Remarques_A = "Portable";
-  const std::string bytes = Fichier_Adif("F9QZX", Joined({Construit_Ligne(qso)}), std::nullopt);
-  Start({});
-  Import(Importe_ADIF, bytes);
-  // Date, times, callsign, locator, band, mode and reports come back, and the name in capitals. Department, QTH and
-  // remarks end up in the remarks; the QSL, distance, azimuth and activity aren't in the file.
-  Champs_QSO back = qso;
-  back.Depart_A = back.QTH_A = back.Distance_A = back.Azimut_A = "";
-  back.Prenom_A = "ZO\xC9";
-  back.Bloc_QSL = Champs_QSO::Bloc_Sans_QSL();
-  back.Activ_A = "0";
-  back.Remarques_A = "DPT:06  NICE PORTABLE";
-  EXPECT_EQ(Read("F9QZX.log"), Construit_Ligne(back) + "\r\n");
-
-  // A contact of 1999 goes out as one of 2099: alone, it finds no place.
-  qso.Date_A = "31/12/99";
-  Start({});
-  Import(Importe_ADIF, Fichier_Adif("F9QZX", Joined({Construit_Ligne(qso)}), std::nullopt));
-  EXPECT_EQ(Read("F9QZX.log"), "");
-  EXPECT_EQ(Status(), De_Utf8("Import ADIF : 1 enregistrement lu, 0 ligne ajoutée"));
 }
 
 TEST_F(Imports, EventsAreServedAndNoContactIsLostMeanwhile) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "maintenance/backup_settings_window.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -88,46 +87,6 @@ TEST_F(BackupTest, RestoringBringsLogAndTalliesBack) {
   folder.Remove("sauve/F6.bak");
   Event([&] { Restaure_Sauvegarde(*programme); });
   EXPECT_EQ(programme->Erreur_Fatale(), 53);
-}
-
-TEST_F(BackupTest, SettingsAreSavedByTheirButtonAlone) {
-  const auto open = [&]() -> Delta_QSO& {
-    Event([&] { programme->Fenetre<Delta_QSO>().Show(); });
-    return programme->Fenetre<Delta_QSO>();
-  };
-  Delta_QSO& window = open();
-  EXPECT_EQ(window.Title(), "Parametres de sauvegarde");
-  EXPECT_EQ(window.Val_Delta.Text(), "10");
-  EXPECT_EQ(window.Le_Chemin.Caption(), folder.File("sauve/F6"));
-
-  const auto choose = [&](const std::string& path) {
-    dialogs.Choose(path);
-    Event([&] { window.New_Rep.UserClick(); });
-  };
-  choose("");
-  EXPECT_EQ(messages.TakeMessages(), Lines{"selectionnez un fichier ou quitter"});
-  EXPECT_EQ(window.Le_Chemin.Caption(), folder.File("sauve/F6"));
-  choose("/mnt/cle/F6ABC");
-  EXPECT_EQ(window.Le_Chemin.Caption(), "/mnt/cle/F6ABC");
-  ASSERT_EQ(dialogs.calls.size(), 2U);
-  EXPECT_TRUE(dialogs.calls[0].save);
-  EXPECT_EQ(dialogs.calls[0].name, "F6ABC");
-  EXPECT_EQ(settings.Get(kSection, "Chemin Sauvegarde"), folder.File("sauve/F6"));
-
-  // Opened anew, the window shows what is saved.
-  Event([&] { window.UserClose(); });
-  Delta_QSO& again = open();
-  EXPECT_EQ(again.Le_Chemin.Caption(), folder.File("sauve/F6"));
-  dialogs.Choose("/mnt/cle/F6ABC");
-  Event([&] {
-    again.New_Rep.UserClick();
-    again.Val_Delta.UserText("beaucoup", 0);
-    again.Command1.UserClick();
-  });
-  EXPECT_EQ(programme->Ouverte<Delta_QSO>(), nullptr);
-  EXPECT_EQ(settings.Get(kSection, "Delta Sauvegarde"), "beaucoup");
-  EXPECT_EQ(settings.Get(kSection, "Chemin Sauvegarde"), "/mnt/cle/F6ABC");
-  EXPECT_EQ(programme->contexte.Delta_Sauvegarde, "beaucoup");
 }
 
 }  // namespace

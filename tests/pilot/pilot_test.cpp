@@ -135,17 +135,6 @@ TEST(Pilot, FilesAndSettings) {
        {"expect setting A B C \"\"", "t.scn:1: expected setting \"A\" \"B\" \"C\" \"\", found none\n"}});
 }
 
-TEST(Pilot, ReadyStation) {
-  EXPECT_EQ(Says("station F9QZX/P JN33BB\nexpect setting DDFM Setup \"Indicatif Station\" F9QZX_P\n"
-                 "expect setting DDFM Setup Indicatif1 \"F9QZX_P      JN33BB\"\n"
-                 "expect setting DDFM \"Setup F9QZX_P\" \"Chemin Sauvegarde\" \"{dir}{/}F9QZX_P\"\n"
-                 "expect setting DDFM \"Setup F9QZX_P\" \"Heure UTC\" True\n"
-                 "expect file F9QZX_P.log size 0\nexpect file F9QZX_P_Absent.txt size 0\n"
-                 "expect file F9QZX_P_Departement.txt exists\nexpect file F9QZX_P_Locator.txt lines 900\n"
-                 "expect file F9QZX_P_Prefixe.txt exists\nexpect file Nomenclature.txt exists"),
-            "");
-}
-
 TEST(Pilot, LogLines) {
   Check({{"qso a.log Date_A=\"12/05/03\" Indicatif_A=F6ABC Bande_A=\"14 Mhz\" Etat=4 QSLE_A=01/06/03 QSLR_A=02/06/03 "
           "Activ_A=2 Remarques_A=\"Château\"\nqso a.log Indicatif_A=F5XYZ\n"

@@ -35,10 +35,7 @@ class Page : public Form {
   }
 
   void Form_Load() override { events.push_back("load"); }
-  void Form_Unload() override {
-    events.push_back("unload");
-    if (on_unload) on_unload();
-  }
+  void Form_Unload() override { events.push_back("unload"); }
 
   TextField field{*this, "field", "ab"};
   TextField lines{*this, "lines", "", true};
@@ -57,7 +54,7 @@ class Page : public Form {
 
   std::vector<std::string> events;
   std::function<void(int&)> on_key;
-  std::function<void()> on_button, on_unload;
+  std::function<void()> on_button;
 };
 
 class MainPage : public Page {
@@ -69,11 +66,6 @@ class MainPage : public Page {
 class ModalPage : public Page {
  public:
   explicit ModalPage(Programme& programme) : Page(programme, "ModalPage") {}
-};
-
-class SidePage : public Page {
- public:
-  explicit SidePage(Programme& programme) : Page(programme, "SidePage") {}
 };
 
 class Controls : public ::testing::Test {
@@ -381,55 +373,6 @@ TEST_F(Controls, ProceduresActOnDisabledControls) {
 
 // --- Windows and the program ----------------------------------------------------------------------------------------
 
-TEST_F(Controls, ModalWindowLocksTheOthers) {
-  auto& side = programme.Fenetre<SidePage>();
-  side.Show();
-  windows.OnModal = [&](Form& form) {
-    Event([&] { side.UserClose(); });
-    EXPECT_TRUE(side.Visible());
-    auto& modal = static_cast<ModalPage&>(form);
-    EXPECT_TRUE(modal.Visible());
-    EXPECT_EQ(programme.Fenetre_Modale(), &modal);
-    Event([&] { page.two.UserClick(); });
-    Event([&] { page.field.UserKey('x'); });
-    EXPECT_EQ(Events(), Lines{"button"});
-    Event([&] { modal.field.UserKey('x'); });
-    EXPECT_EQ(modal.field.Text(), "x");
-    Event([&] { modal.UserClose(); });
-    EXPECT_FALSE(modal.Visible());
-  };
-  page.on_button = [&] {
-    programme.Fenetre<ModalPage>().ShowModal();
-    page.events.push_back("after");
-  };
-  Event([&] { page.button.UserClick(); });
-  EXPECT_EQ(Events(), Lines{"after"});
-  EXPECT_EQ(programme.Fenetre_Modale(), nullptr);
-  EXPECT_EQ(programme.Ouverte<ModalPage>(), nullptr);
-  Event([&] { page.two.UserClick(); });
-  EXPECT_EQ(Events(), Lines{"two"});
-}
-
-TEST_F(Controls, ClosingTheMainWindowEndsTheProgramFromWithinAModalOne) {
-  windows.OnModal = [&](Form&) {
-    Event([&] { page.UserClose(); });
-    EXPECT_TRUE(programme.Termine_Deja());
-  };
-  bool after = false;
-  page.on_button = [&] {
-    programme.Fenetre<ModalPage>().ShowModal();
-    after = true;
-  };
-  Event([&] { page.button.UserClick(); });
-  EXPECT_FALSE(after);
-  EXPECT_FALSE(programme.Ouverte<ModalPage>()->Visible());
-  EXPECT_EQ(programme.Erreur_Fatale(), 0);
-  EXPECT_TRUE(messages.boxes.empty());
-  bool late = false;
-  Event([&] { late = true; });
-  EXPECT_FALSE(late);
-}
-
 TEST_F(Controls, AWindowMayUnloadItselfInItsOwnHandler) {
   auto& modal = programme.Fenetre<ModalPage>();
   EXPECT_EQ(modal.events, Lines{"load"});
@@ -494,20 +437,6 @@ TEST_F(Controls, TheProgramCanEndWhileABoxWaits) {
   EXPECT_FALSE(after);
   EXPECT_TRUE(programme.Termine_Deja());
   EXPECT_EQ(messages.TakeMessages(), Lines{"attente"});
-}
-
-TEST_F(Controls, WaitingForTheEndLeavesOnlyByTheEnd) {
-  int waits = 0;
-  windows.OnWait = [&] {
-    if (++waits == 3) Event([&] { page.UserClose(); });
-  };
-  bool after = false;
-  Event([&] {
-    programme.Attend_La_Fin();
-    after = true;
-  });
-  EXPECT_EQ(waits, 3);
-  EXPECT_FALSE(after);
 }
 
 TEST_F(Controls, EventsServedInALoopMayEndTheProgram) {

@@ -105,22 +105,6 @@ class DirectoryWindowTest : public CallsignDirectoryTest {
   }
 };
 
-TEST_F(DirectoryWindowTest, ListsInOrderAndShowsAPickedLine) {
-  EXPECT_EQ(Window().Liste_Nomenclature.Items(),
-            (Lines{"DL1ABC     67 JN48AA", "F1XYZ      75   JN18", "F6ABC      06 JN33BB"}));
-  EXPECT_EQ(programme->saisie.Locator_Repertoire, "");
-  Pick(1);
-  EXPECT_EQ(Fields(), "F1XYZ|75|JN18");
-
-  Fill("", "", "");
-  Event([&] {
-    Window().Ind_Edit.UserKey('f');
-    Window().Dep_Edit.UserKey('a');
-    Window().Loc_Edit.UserKey('j');
-  });
-  EXPECT_EQ(Fields(), "F|a|J");
-}
-
 TEST_F(DirectoryWindowTest, AddingTestsCallsignLocatorAndDoubles) {
   const std::string no_call = "Attention pas d'indicatif ou indicatif superieur a 10 caracteres";
   const std::string no_locator = "Attention pas de locator ou locator superieur a 6 caracteres";
@@ -178,32 +162,6 @@ TEST_F(DirectoryWindowTest, EditingReplacesThePickedLine) {
   Fill("F5AAA", "06", "JN33BB");
   Press(Window().Editer);
   EXPECT_EQ(programme->Erreur_Fatale(), 5);
-}
-
-TEST_F(DirectoryWindowTest, DeletingKeepsTheDepartmentField) {
-  EXPECT_EQ(Press(Window().Supprimer), Lines{"Selectionnez une ligne d'abord"});
-  Pick(0);
-  EXPECT_EQ(Press(Window().Supprimer), Lines{});
-  EXPECT_EQ(Fields(), "|67|");
-  EXPECT_EQ(Window().Liste_Nomenclature.Count(), 2);
-  Fill("F5AAA", "", "");
-  Press(Window().Supprimer);
-  EXPECT_EQ(programme->Erreur_Fatale(), 5);
-}
-
-TEST_F(DirectoryWindowTest, TheFileChangesOnlyWhenTheAnswerIsYes) {
-  const std::string before = Read(kFile);
-  for (const bool save : {false, true}) {
-    Event([&] { Window().Show(); });
-    Pick(0);
-    Press(Window().Supprimer);
-    EXPECT_EQ(Read(kFile), before);
-    messages.Answer(save);
-    Event([&] { Window().UserClose(); });
-    EXPECT_EQ(messages.TakeQuestions(), Lines{"Sauvegarder fichier Nomenclature.txt avant de quitter?"});
-    EXPECT_EQ(programme->Ouverte<Fichier_Nomenclature>(), nullptr);
-    EXPECT_EQ(Read(kFile), save ? "F1XYZ      75   JN18\r\nF6ABC      06 JN33BB\r\n" : before);
-  }
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/bands.h"
-#include "core/error_window.h"
 #include "entry/ddfm.h"
 #include "support/station_fixture.h"
 
@@ -35,14 +33,6 @@ class DepartmentTallyTest : public StationFixture {
   int total = -1;
   Compte_Departements counts;
 };
-
-TEST_F(DepartmentTallyTest, BandsHaveTheirColumns) {
-  EXPECT_EQ(Colonne_Departement("1.8 Mhz"), 4);
-  EXPECT_EQ(Colonne_Departement("144 Mhz"), 14);
-  EXPECT_EQ(Colonne_Departement("24 Ghz"), 20);
-  EXPECT_EQ(Colonne_Departement("50Mhz"), 0);
-  EXPECT_EQ(Colonne_Departement(""), 0);
-}
 
 TEST_F(DepartmentTallyTest, LookUpTakesTheFirstLineOfAKey) {
   WriteLines(kFile, {"01 01234567890123456   Ain", "06 0000000003       x", "06 00000000040000000 Second", "07"});
@@ -177,24 +167,6 @@ TEST_F(DepartmentTallyTest, AKeyThatIsNoCellEndsThePaintingAsError13) {
     Paint("14 Mhz");
     EXPECT_EQ(programme->Erreur_Fatale(), 13);
   }
-}
-
-TEST_F(DepartmentTallyTest, PaintingWithoutTheFileOpensTheErrorWindow) {
-  Event([&] { Cell(0); });
-  folder.Remove(kFile);
-  std::string missing;
-  windows.OnWait = [&] {
-    Event([&] {
-      auto& window = programme->Fenetre<Gestion_Erreur>();
-      missing = window.Err_Departement.Caption();
-      window.Quitter.UserClick();
-    });
-  };
-  Paint("14 Mhz");
-  EXPECT_EQ(missing, "_Departement.txt");
-  EXPECT_TRUE(programme->Termine_Deja());
-  EXPECT_EQ(programme->Erreur_Fatale(), 0);
-  EXPECT_EQ(total, -1);
 }
 
 }  // namespace

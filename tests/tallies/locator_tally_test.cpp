@@ -30,12 +30,6 @@ class LocatorTallyTest : public StationFixture {
   int total = -1;
 };
 
-TEST_F(LocatorTallyTest, BandsFrom50MhzUpHaveColumns) {
-  EXPECT_EQ(Colonne_Locator("50 Mhz"), 6);
-  EXPECT_EQ(Colonne_Locator("24 Ghz"), 13);
-  for (const char* none : {"28 Mhz", "1.8 Mhz", "70 Mhz", ""}) EXPECT_EQ(Colonne_Locator(none), 0) << none;
-}
-
 TEST_F(LocatorTallyTest, LookUpByTheFirstFourCharacters) {
   WriteLines(kFile, {"JN33 12345670 tail", "JN33 00000000", "JN34 0"});
   Look("JN33BB", "144 Mhz");

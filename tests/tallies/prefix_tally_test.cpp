@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/error_window.h"
 #include "core/text.h"
 #include "support/station_fixture.h"
 #include "tallies/add_prefix_window.h"
@@ -110,26 +109,6 @@ TEST_F(PrefixTallyTest, UpdateMarksTheFirstMatchOnly) {
   EXPECT_EQ(messages.TakeMessages(), Lines{});
 }
 
-TEST_F(PrefixTallyTest, AMissingFileOpensTheErrorWindow) {
-  for (const bool update : {false, true}) {
-    SCOPED_TRACE(update);
-    Restart();
-    ReadyStation();
-    folder.Remove(kFile);
-    std::string missing;
-    windows.OnWait = [&] {
-      Event([&] {
-        missing = programme->Fenetre<Gestion_Erreur>().Err_Departement.Caption();
-        programme->Fenetre<Gestion_Erreur>().Quitter.UserClick();
-      });
-    };
-    update ? Update("F6ABC", "14 Mhz") : Look("F6ABC", "14 Mhz");
-    EXPECT_EQ(missing, "_Prefixe.txt");
-    EXPECT_TRUE(programme->Termine_Deja());
-    EXPECT_FALSE(folder.Exists("Temporaire1.txt"));
-  }
-}
-
 TEST_F(PrefixTallyTest, FrenchPrefixesAreComparedWhole) {
   for (const char* yes : {"F", "TH", "TK", "TM", "TP", "TQ", "TV", "TW", "HW", "HX", "HY"})
     EXPECT_TRUE(Prefixe_Francais(yes)) << yes;
@@ -167,22 +146,6 @@ TEST_F(PrefixTallyTest, AddedPrefixGoesToTheEnd) {
   window.Show();
   add("Q", "X");
   EXPECT_EQ(Read(kFile), "Q      00000000000000000  X\r\n");
-}
-
-TEST_F(PrefixTallyTest, StatisticsListTheWorkedPrefixesOfABand) {
-  WriteLines(kFile, {"TM     00120000000000000   France  ", "DL     00100000000000000  Allemagne",
-                     "ABCDEF 00000000000000001  Six", "F", ""});
-  auto& window = programme->Fenetre<Statistique_Prefixe>();
-  window.Show();
-  EXPECT_EQ(window.Bande_E.Text(), "7.0 Mhz");
-  EXPECT_EQ(window.Liste_Prefixes.Items(), (Lines{"  DL    Allemagne" + Blancs(26), "  TM    France" + Blancs(29)}));
-  Event([&] { window.Bande_E.UserSelect(3); });
-  EXPECT_EQ(window.Liste_Prefixes.Items(), Lines{"  TM    France" + Blancs(29)});
-  Event([&] { window.Bande_E.UserSelect(16); });
-  EXPECT_EQ(window.Liste_Prefixes.Items(), Lines{"  ABCDE Six" + Blancs(32)});
-  Event([&] { window.Bande_E.UserSelect(0); });
-  EXPECT_EQ(window.Liste_Prefixes.Count(), 0);
-  EXPECT_EQ(programme->Erreur_Fatale(), 0);
 }
 
 TEST_F(PrefixTallyTest, StatisticsFailOnWhatTheyCannotShow) {

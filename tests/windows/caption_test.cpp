@@ -87,19 +87,6 @@ class CaptionTest : public QObject {
     QCOMPARE(bench.legend->palette().color(QPalette::WindowText), QColor(Qt::black));
   }
 
-  void OptionsOfAGroupExcludeEachOther() {
-    CaptionBench bench;
-    QVERIFY(bench.one->isChecked());
-    QTest::mouseClick(bench.two, Qt::LeftButton, {}, QPoint(8, bench.two->height() / 2));
-    QVERIFY(bench.form().Deux.Set() && !bench.form().Un.Set());
-    QVERIFY(bench.two->isChecked() && !bench.one->isChecked());
-    // What is set already isn't clicked again.
-    QTest::mouseClick(bench.two, Qt::LeftButton, {}, QPoint(8, bench.two->height() / 2));
-    QCOMPARE(bench.form().clicks, "2");
-    bench.form().Un.SetOn();
-    QVERIFY(bench.one->isChecked() && !bench.two->isChecked());
-  }
-
   void ARefusedClickLeavesTheTickAsItWas() {
     CaptionBench bench;
     bench.form().Hide();

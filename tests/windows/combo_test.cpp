@@ -130,18 +130,6 @@ class ComboTest : public QObject {
     QCOMPARE(bench.form().clicks, (std::vector<int>{2, 2}));
   }
 
-  void ARowSetByTheLogicIsShownWithItsText() {
-    ComboBench bench;
-    bench.form().Choix.ClearItems();
-    for (const char* activity : {"QSO", "DFCF"}) bench.form().Choix.AddItem(activity);
-    bench.form().Choix.SetListIndex(1);
-    QCOMPARE(bench.gate.asked, 1);
-    bench.gate.Refresh();
-    QCOMPARE(bench.choice->count(), 2);
-    QCOMPARE(bench.choice->currentText(), QStringLiteral("DFCF"));
-    QCOMPARE(bench.form().clicks, (std::vector<int>{1}));
-  }
-
   void AForeignCharacterIsRefused() {
     ComboBench bench;
     bench.open->setFocus();

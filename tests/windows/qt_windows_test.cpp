@@ -12,11 +12,9 @@
 #include "core/errors.h"
 #include "core/loading_window.h"
 #include "core/log_file.h"
-#include "core/log_line.h"
 #include "core/station_form.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
-#include "maintenance/backup_settings_window.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_messages.h"
@@ -72,31 +70,6 @@ class QtWindowsTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void TheMainWindowWaitsInTheCallsign() {
-    WindowsBench bench;
-    auto& main = bench.Open<DDFM>();
-    QWidget* window = bench.windows.WindowOf(main);
-    QVERIFY(window->isVisible());
-    QCOMPARE(window->windowTitle(), QStringLiteral("Vorelio Revision  5.6.9d"));
-    QCOMPARE(window->focusWidget(), bench.windows.WidgetOf(main.Indicatif_A));
-    QVERIFY(bench.messages.boxes.empty());
-  }
-
-  void TypingGoesDownTheChain() {
-    WindowsBench bench;
-    auto& main = bench.Open<DDFM>();
-    QWidget* window = bench.windows.WindowOf(main);
-    QTest::keyClicks(window->focusWidget(), QStringLiteral("dl9zzz"));
-    QTest::keyClick(window->focusWidget(), Qt::Key_Return);
-    QCOMPARE(main.Indicatif_A.Text(), "DL9ZZZ");
-    QCOMPARE(window->focusWidget(), bench.windows.WidgetOf(main.Mode_A));
-    QTest::keyClick(window->focusWidget(), Qt::Key_Return);
-    QTest::keyClick(window->focusWidget(), Qt::Key_Return);
-    // The caret stands behind the report's "59".
-    QTest::keyClicks(window->focusWidget(), QStringLiteral("9"));
-    QCOMPARE(main.RSTE_A.Text(), "599");
-  }
-
   // Hiding and showing within one procedure leaves the window alone.
   void AQuickLoadDoesNotFlicker() {
     WindowsBench bench;
@@ -174,20 +147,6 @@ class QtWindowsTest : public QObject {
     QVERIFY(!bench.programme.Ouverte<Station>());
   }
 
-  void AWaiterWaitsInPlaceOfTheLoop() {
-    WindowsBench bench;
-    bench.Open<DDFM>();
-    int asked = 0;
-    bench.windows.Waiter = [&](const std::function<bool()>& done) {
-      QVERIFY(!done());
-      bench.windows.Deliver(bench.programme, [&] { bench.programme.Fenetre<Station>().UserClose(); });
-      ++asked;
-      QVERIFY(done());
-    };
-    bench.windows.Deliver(bench.programme, [&] { bench.programme.Fenetre<Station>().ShowModal(); });
-    QCOMPARE(asked, 1);
-  }
-
   void EscapeClosesASecondaryWindow() {
     WindowsBench bench;
     auto& main = bench.Open<DDFM>();
@@ -200,16 +159,6 @@ class QtWindowsTest : public QObject {
     bench.windows.WindowOf(main)->activateWindow();
     QTest::keyClick(bench.windows.WindowOf(main), Qt::Key_Escape);
     QVERIFY(bench.programme.Ouverte<DDFM>());
-  }
-
-  void ClosingTheMainWindowEndsTheProgram() {
-    WindowsBench bench;
-    auto& main = bench.Open<DDFM>();
-    bench.Open<Delta_QSO>();
-    bench.windows.WindowOf(main)->close();
-    QVERIFY(bench.programme.Termine_Deja());
-    bench.windows.ShowPending();
-    for (const QWidget* window : QApplication::topLevelWidgets()) QVERIFY(!window->isVisible());
   }
 
   void NothingIsThrownAcrossTheEventLoop() {
@@ -288,6 +237,18 @@ class QtWindowsTest : public QObject {
     dialogs.answer = QStringLiteral("/tmp/журнал.adi");
     QVERIFY(dialogs.Open("/tmp", "").empty());
     QCOMPARE(messages.boxes.size(), std::size_t{1});
+  }
+
+  void TheClipboardTellsWhatItCannotGive() {
+    WindowsBench bench;
+    QtClipboard clipboard(bench.messages);
+    clipboard.SetText("d\xE9j\xE0\r\nvu");
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("déjà\nvu"));
+    QCOMPARE(clipboard.Text(), std::string("d\xE9j\xE0\r\nvu"));
+    QVERIFY(bench.messages.boxes.empty());
+    QApplication::clipboard()->setText(QStringLiteral("aф"));
+    QCOMPARE(clipboard.Text(), std::string("a?"));
+    QCOMPARE(bench.messages.boxes.size(), std::size_t{1});
   }
 
   // --- The look ---
@@ -392,18 +353,6 @@ class QtWindowsTest : public QObject {
     QEvent::Type kind_;
     int& count_;
   };
-
-  void TheClipboardTellsWhatItCannotGive() {
-    WindowsBench bench;
-    QtClipboard clipboard(bench.messages);
-    clipboard.SetText("d\xE9j\xE0\r\nvu");
-    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("déjà\nvu"));
-    QCOMPARE(clipboard.Text(), std::string("d\xE9j\xE0\r\nvu"));
-    QVERIFY(bench.messages.boxes.empty());
-    QApplication::clipboard()->setText(QStringLiteral("aф"));
-    QCOMPARE(clipboard.Text(), std::string("a?"));
-    QCOMPARE(bench.messages.boxes.size(), std::size_t{1});
-  }
 };
 
 const InSuite<QtWindowsTest> kQtWindowsTest;

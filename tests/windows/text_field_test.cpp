@@ -57,31 +57,6 @@ class TextFieldTest : public QObject {
     QCOMPARE(bench.form().Champ.Text(), FromQt(typed));
   }
 
-  // The handler sees the text without the character, and may change or drop it.
-  void KeyPressRunsBeforeTheCharacterJoins() {
-    FieldBench bench;
-    TextField& field = bench.form().Champ;
-    std::vector<std::string> before;
-    field.KeyPress = [&](int& key) {
-      before.push_back(field.Text());
-      key = key == '-' ? 0 : Touche_Majuscule(key);
-    };
-    QTest::keyClicks(bench.field, QStringLiteral("f4-x"));
-    QCOMPARE(bench.field->text(), QStringLiteral("F4X"));
-    QCOMPARE(before, (std::vector<std::string>{"", "F", "F4", "F4"}));
-    QCOMPARE(bench.field->cursorPosition(), 3);
-  }
-
-  void EnterIsAKeyAndNoText() {
-    FieldBench bench;
-    std::vector<int> keys;
-    bench.form().Champ.KeyPress = [&](int& key) { keys.push_back(key); };
-    QTest::keyClick(bench.field, Qt::Key_Return);
-    QTest::keyClick(bench.field, Qt::Key_Enter);
-    QCOMPARE(keys, (std::vector<int>{13, 13}));
-    QVERIFY(bench.field->text().isEmpty());
-  }
-
   void EnterPressesTheButtonThatTheDesignNames() {
     FieldBench bench;
     int clicks = 0;
@@ -217,15 +192,6 @@ class TextFieldTest : public QObject {
     bench.form().Champ.SetText("F6ABC");
     QTest::keyClick(bench.field, Qt::Key_F2);
     QVERIFY(bench.field->text().isEmpty());
-  }
-
-  void AReadOnlyFieldTakesNoCharacter() {
-    FieldBench bench;
-    bench.form().Champ.SetReadOnly(true);
-    bench.form().Champ.SetText("12");
-    QVERIFY(bench.field->isReadOnly());
-    QTest::keyClicks(bench.field, QStringLiteral("3"));
-    QCOMPARE(bench.field->text(), QStringLiteral("12"));
   }
 
   void ColouredFieldsKeepBlackText_data() {
