@@ -68,11 +68,10 @@ std::string_view Bande(std::string_view ligne) {
 
 /// Department of France; the states and provinces of other countries begin with a letter.
 std::string Departement(std::string_view ligne) {
-  const std::string sans = "  ";
   const auto valeur = Champ_ADIF(ligne, "<STATE");
-  if (!valeur) return sans;
-  if (valeur->empty()) Refuse("<STATE");
-  return valeur->front() >= '0' && valeur->front() <= '9' ? std::string(*valeur) : sans;
+  if (valeur && valeur->empty()) Refuse("<STATE");
+  const bool numero = valeur && valeur->front() >= '0' && valeur->front() <= '9';
+  return numero ? std::string(*valeur) : Blancs(2);
 }
 
 void Avance_Etat_QSL(std::string_view ligne, char& etat) {

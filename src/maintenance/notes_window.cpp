@@ -10,10 +10,7 @@ constexpr const char* kFiltre = ".not |*.not";
 
 /// Notes written by an editor of this day's desktops are in UTF-8; those of the program, and any that its character
 /// set can't hold, are taken byte by byte.
-std::string Texte_De_Notes(std::string octets) {
-  auto lu = De_Utf8_Exact(octets);
-  return lu ? *std::move(lu) : octets;
-}
+std::string Texte_De_Notes(const std::string& octets) { return De_Utf8_Exact(octets).value_or(octets); }
 
 }  // namespace
 

@@ -33,7 +33,7 @@ class CaptionLabel : public QLabel {
 };
 
 /// Shows the words of a label.
-class LabelView : public ViewOf<Label, QLabel> {
+class LabelView final : public ViewOf<Label, QLabel> {
  public:
   LabelView(Label& label, QLabel& shown, Gate& gate);
 
@@ -44,7 +44,7 @@ class LabelView : public ViewOf<Label, QLabel> {
 
 /// A frame: a group box with its caption as its title, or any widget, whose caption stands in its label
 /// "titre_<name>".
-class FrameView : public ViewOf<Frame, QWidget> {
+class FrameView final : public ViewOf<Frame, QWidget> {
  public:
   FrameView(Frame& frame, QWidget& shown, Gate& gate);
 

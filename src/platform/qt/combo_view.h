@@ -8,7 +8,7 @@
 namespace vorelio {
 
 /// A combo box, editable or not. It completes nothing by itself, and a turning wheel leaves it alone.
-class ComboView : public ViewOf<ComboBox, QComboBox> {
+class ComboView final : public ViewOf<ComboBox, QComboBox> {
  public:
   ComboView(ComboBox& combo, QComboBox& box, Gate& gate);
 

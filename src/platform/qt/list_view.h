@@ -27,7 +27,7 @@ class RowsModel : public QAbstractListModel {
   int told_ = 0;
 };
 
-class ListView : public ViewOf<ListBox, RowsView> {
+class ListView final : public ViewOf<ListBox, RowsView> {
  public:
   ListView(ListBox& list, RowsView& rows, Gate& gate);
 

@@ -7,7 +7,7 @@
 namespace vorelio {
 
 /// A text field of several lines. The model's line ends are CR LF, the widget's one character.
-class MultiLineView : public ViewOf<TextField, QPlainTextEdit> {
+class MultiLineView final : public ViewOf<TextField, QPlainTextEdit> {
  public:
   MultiLineView(TextField& field, QPlainTextEdit& edit, Gate& gate);
 

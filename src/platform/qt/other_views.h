@@ -9,7 +9,7 @@
 namespace vorelio {
 
 /// A menu entry. A menu all of whose entries are hidden is hidden with them.
-class MenuView : public View {
+class MenuView final : public View {
  public:
   MenuView(MenuItem& item, QAction& action, Gate& gate);
 
@@ -22,7 +22,7 @@ class MenuView : public View {
 };
 
 /// A bar that shows how far a running procedure has come; it follows at the pace of the screen.
-class GaugeView : public ViewOf<Gauge, QProgressBar> {
+class GaugeView final : public ViewOf<Gauge, QProgressBar> {
  public:
   GaugeView(Gauge& gauge, QProgressBar& bar, Gate& gate) : ViewOf(gauge, bar, gate) { ShowDeferred(); }
 
@@ -35,7 +35,7 @@ class GaugeView : public ViewOf<Gauge, QProgressBar> {
 };
 
 /// Runs a timer of the logic while it is enabled and its form is loaded.
-class TimerView : public View {
+class TimerView final : public View {
  public:
   TimerView(Timer& timer, QTimer& clock, Gate& gate);
 

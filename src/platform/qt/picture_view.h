@@ -6,7 +6,7 @@
 namespace vorelio {
 
 /// Shows a picture of the program's directory.
-class PictureView : public ViewOf<Picture, PictureBoard> {
+class PictureView final : public ViewOf<Picture, PictureBoard> {
  public:
   PictureView(Picture& picture, PictureBoard& board, Gate& gate);
 

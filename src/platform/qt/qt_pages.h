@@ -15,7 +15,7 @@ class QtPages : public PageService {
   explicit QtPages(QtWindows& windows) : windows_(windows) {}
 
   /// A page of more bytes than this is abandoned.
-  static constexpr qint64 kLargest = 32 * 1024 * 1024;
+  static constexpr qint64 kLargest = qint64{32} * 1024 * 1024;
 
   std::string Fetch(const std::string& url, int timeout_s, const Abandoned& abandoned) override;
 

@@ -10,7 +10,7 @@ namespace vorelio {
 
 /// The system's serial ports, on the system's own calls: they tell a port that has been unplugged when it is written
 /// to, and how much the driver still holds.
-class QtSerial : public SerialService {
+class QtSerial final : public SerialService {
  public:
   QtSerial() = default;
   ~QtSerial() override { Close(); }

@@ -223,7 +223,7 @@ void RowsView::keyPressEvent(QKeyEvent* event) {
   const int count = model() ? model()->rowCount() : 0;
   const bool none = !currentIndex().isValid();
   const int row = currentIndex().row();
-  int target = row;
+  int target = 0;
   switch (event->key()) {
     case Qt::Key_Up: target = none ? count - 1 : row - 1; break;
     case Qt::Key_Down: target = none ? RowAt({kMargin, 1}) : row + 1; break;

@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QStyleOption>
 #include <algorithm>
+#include <cmath>
 
 namespace vorelio {
 
@@ -124,7 +125,7 @@ bool Marked(const QWidget* widget, const char* property) { return widget && widg
 }  // namespace
 
 QColor Blend(const QColor& one, const QColor& other, double share) {
-  const auto mix = [share](int a, int b) { return static_cast<int>(a * (1 - share) + b * share + 0.5); };
+  const auto mix = [share](int a, int b) { return static_cast<int>(std::lround(a * (1 - share) + b * share)); };
   return QColor(mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue()));
 }
 

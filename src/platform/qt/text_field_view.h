@@ -8,7 +8,7 @@ namespace vorelio {
 
 /// A text field of one line. Typed characters go to the model one by one, so that its `KeyPress` runs before they
 /// join; deletions, pastes and undo are the widget's, and are told afterwards.
-class TextFieldView : public ViewOf<TextField, QLineEdit> {
+class TextFieldView final : public ViewOf<TextField, QLineEdit> {
  public:
   TextFieldView(TextField& field, QLineEdit& edit, Gate& gate);
 
