@@ -12,18 +12,20 @@
 #include "core/log_line.h"
 #include "core/programme.h"
 #include "core/text.h"
+#include "doubles/devices.h"
+#include "doubles/ready_station.h"
+#include "doubles/scratch_folder.h"
+#include "doubles/services.h"
 #include "entry/ddfm.h"
 #include "exchange/adif_import.h"
 #include "exchange/edi_import.h"
 #include "exchange/log_splice.h"
 #include "exchange/native_import.h"
 #include "fuzz/memory_disk.h"
-#include "support/devices.h"
-#include "support/doubles.h"
-#include "support/ready_station.h"
-#include "support/scratch_folder.h"
 
 namespace vorelio::tests {
+
+using namespace doubles;
 
 /// One importer, fed with whole files: each goes into the same log of three contacts. What must hold is checked here,
 /// and a breach aborts, as fuzzers want it.

@@ -162,7 +162,7 @@ TEST(Pilot, ShowPrintsWithoutJudging) {
 }
 
 TEST(Pilot, ScoreIsTheLastLine) {
-  tests::ScratchFolder folder;
+  doubles::ScratchFolder folder;
   folder.Write("good.scn", "start\nexpect Banc open\n");
   folder.Write("bad.scn", "start\nexpect Banc closed\n");
   std::ostringstream out;

@@ -7,9 +7,9 @@
 #include "core/errors.h"
 #include "core/programme.h"
 #include "core/text.h"
+#include "doubles/devices.h"
+#include "doubles/services.h"
 #include "platform/posix_disk.h"
-#include "support/devices.h"
-#include "support/doubles.h"
 
 namespace vorelio {
 namespace {
@@ -94,12 +94,12 @@ class Controls : public ::testing::Test {
 
   using Lines = std::vector<std::string>;
 
-  tests::MapSettings settings;
-  tests::RecordedMessages messages;
-  tests::QueuedDialogs dialogs;
-  tests::FixedClock clock;
-  tests::SilentWindows windows;
-  tests::Devices devices;
+  doubles::MapSettings settings;
+  doubles::RecordedMessages messages;
+  doubles::QueuedDialogs dialogs;
+  doubles::FixedClock clock;
+  doubles::SilentWindows windows;
+  doubles::Devices devices;
   PosixDisk disk;
   Programme programme{devices.Join(settings, messages, dialogs, clock, windows, disk, "/nowhere")};
   MainPage& page = programme.Fenetre<MainPage>();
@@ -423,12 +423,12 @@ TEST_F(Controls, AnEventIsABoundaryWhateverItsCallerTraps) {
   EXPECT_TRUE(programme.Termine_Deja());
   EXPECT_EQ(programme.Erreur_Fatale(), 13);
   EXPECT_EQ(messages.fatal_number, 13);
-  EXPECT_EQ(messages.Texts(tests::Box::Kind::Fatal), Lines{"Erreur d'exécution '13' : Type incompatible"_t});
+  EXPECT_EQ(messages.Texts(doubles::Box::Kind::Fatal), Lines{"Erreur d'exécution '13' : Type incompatible"_t});
   EXPECT_FALSE(page.Visible());
 }
 
 TEST_F(Controls, TheProgramCanEndWhileABoxWaits) {
-  messages.OnBox = [&](const tests::Box&) { Event([&] { page.UserClose(); }); };
+  messages.OnBox = [&](const doubles::Box&) { Event([&] { page.UserClose(); }); };
   bool after = false;
   Event([&] {
     programme.Message("attente");

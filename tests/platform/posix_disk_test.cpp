@@ -18,7 +18,7 @@
 #include <vector>
 
 #include "core/errors.h"
-#include "support/scratch_folder.h"
+#include "doubles/scratch_folder.h"
 
 // The calls that this program makes go through here: a test sees their order, and can let one fail as the system
 // would. Whoever doesn't ask gets the system's own.
@@ -72,6 +72,8 @@ ssize_t pwrite(int file, const void* data, size_t size, off_t from) {
 }
 
 namespace vorelio::tests {
+
+using namespace doubles;
 namespace {
 
 namespace fs = std::filesystem;

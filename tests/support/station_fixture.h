@@ -9,14 +9,16 @@
 
 #include "core/programme.h"
 #include "core/station_files.h"
+#include "doubles/devices.h"
+#include "doubles/ready_station.h"
+#include "doubles/scratch_folder.h"
+#include "doubles/services.h"
 #include "platform/posix_disk.h"
-#include "support/devices.h"
-#include "support/doubles.h"
 #include "support/logging_disk.h"
-#include "support/ready_station.h"
-#include "support/scratch_folder.h"
 
 namespace vorelio::tests {
+
+using namespace doubles;
 
 /// A scratch program directory as the program is delivered, doubles of every service, and a run over them. A test that
 /// wants a station calls `ReadyStation`; one that wants the first run doesn't.

@@ -1,14 +1,17 @@
 #include "tallies/rebuild.h"
 
+#include "bench/line_by_line.h"
 #include "core/errors.h"
 #include "entry/ddfm.h"
-#include "support/line_by_line.h"
 #include "support/random_log.h"
 #include "support/station_fixture.h"
 #include "tallies/department_tally.h"
 #include "tallies/progress_window.h"
 
 namespace vorelio::tests {
+
+using bench::LineByLine;
+
 namespace {
 
 struct Case {

@@ -11,16 +11,18 @@
 
 #include "core/programme.h"
 #include "core/station_files.h"
+#include "doubles/devices.h"
+#include "doubles/ready_station.h"
+#include "doubles/scratch_folder.h"
+#include "doubles/services.h"
 #include "platform/posix_disk.h"
 #include "platform/qt/binder.h"
 #include "platform/qt/qt_windows.h"
-#include "support/devices.h"
-#include "support/doubles.h"
-#include "support/ready_station.h"
-#include "support/scratch_folder.h"
 #include "windows/suite.h"
 
 namespace vorelio::tests {
+
+using namespace doubles;
 
 /// A program on the real windows, with doubles for all else and a station of its own.
 struct WindowsBench {

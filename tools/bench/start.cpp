@@ -12,12 +12,12 @@
 #include <cstdlib>
 
 #include "core/station_files.h"
+#include "doubles/ready_station.h"
+#include "doubles/scratch_folder.h"
 #include "entry/ddfm.h"
 #include "log_maker.h"
 #include "platform/qt/application.h"
 #include "platform/qt/qt_text.h"
-#include "support/ready_station.h"
-#include "support/scratch_folder.h"
 
 namespace {
 
@@ -37,11 +37,11 @@ struct RealRun {
 };
 
 void Prepare(const QString& folder, int contacts) {
-  tests::CopyTemplates(folder.toStdString());
+  doubles::CopyTemplates(folder.toStdString());
   RealRun run(folder);
   Sous_Programmes::Cree_Fichiers_Station(run.programme, kStation);
   const Platform services = run.application.Services();
-  tests::SeedStationSettings(services.settings, services.directory, services.separator, kStation, "JN33BB");
+  doubles::SeedStationSettings(services.settings, services.directory, services.separator, kStation, "JN33BB");
   services.disk.WriteAll(run.programme.Chemin_Log(kStation), bench::MakeLog(contacts));
 }
 

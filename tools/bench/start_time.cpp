@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "support/scratch_folder.h"
+#include "doubles/scratch_folder.h"
 #include "table.h"
 
 namespace vorelio::bench {
@@ -53,7 +53,7 @@ std::string RunStart(std::vector<std::string> words) {
 }  // namespace
 
 StartTime MeasureStart(int contacts, int rounds) {
-  const tests::ScratchFolder folder;
+  const doubles::ScratchFolder folder;
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   // The offscreen platform warns of what it can't do.
   setenv("QT_LOGGING_RULES", "*.warning=false", 1);

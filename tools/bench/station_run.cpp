@@ -4,16 +4,16 @@
 #include <stdexcept>
 
 #include "core/station_files.h"
+#include "doubles/ready_station.h"
 #include "log_maker.h"
-#include "support/ready_station.h"
 
 namespace vorelio::bench {
 
 StationRun::StationRun(int contacts, DateMode mode)
     : programme_(devices_.Join(settings_, messages_, dialogs_, clock_, windows_, disk_, folder_.Path())) {
-  tests::CopyTemplates(folder_.Path());
+  doubles::CopyTemplates(folder_.Path());
   Sous_Programmes::Cree_Fichiers_Station(programme_, kStation);
-  tests::SeedStationSettings(settings_, folder_.Path(), '/', kStation, "JN33BB");
+  doubles::SeedStationSettings(settings_, folder_.Path(), '/', kStation, "JN33BB");
   const std::string section = std::string("Setup ") + kStation;
   settings_.Write("DDFM", section, "Date Automatique", mode == DateMode::Automatic ? "True" : "False");
   // A backup in the middle of a measure would be another measure.

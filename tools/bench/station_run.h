@@ -3,11 +3,11 @@
 #include <string>
 
 #include "core/programme.h"
+#include "doubles/devices.h"
+#include "doubles/scratch_folder.h"
+#include "doubles/services.h"
 #include "entry/ddfm.h"
 #include "platform/posix_disk.h"
-#include "support/devices.h"
-#include "support/doubles.h"
-#include "support/scratch_folder.h"
 
 namespace vorelio::bench {
 
@@ -26,9 +26,9 @@ class StationRun {
   /// Absolute path of a file of the station.
   std::string File(const std::string& ending) const { return folder_.File(kStation + ending); }
   /// Where the next file dialog finds its answer.
-  tests::QueuedDialogs& Dialogs() { return dialogs_; }
+  doubles::QueuedDialogs& Dialogs() { return dialogs_; }
   /// What the program has shown, and the answers to its questions.
-  tests::BoxRecord& Boxes() { return messages_; }
+  doubles::BoxRecord& Boxes() { return messages_; }
   /// Copies a file of the template station over the station's.
   void Restore(const std::string& ending);
 
@@ -45,13 +45,13 @@ class StationRun {
  private:
   void MustStillRun() const;
 
-  tests::ScratchFolder folder_;
-  tests::MapSettings settings_;
-  tests::RecordedMessages messages_;
-  tests::QueuedDialogs dialogs_;
-  tests::FixedClock clock_;
-  tests::SilentWindows windows_;
-  tests::Devices devices_;
+  doubles::ScratchFolder folder_;
+  doubles::MapSettings settings_;
+  doubles::RecordedMessages messages_;
+  doubles::QueuedDialogs dialogs_;
+  doubles::FixedClock clock_;
+  doubles::SilentWindows windows_;
+  doubles::Devices devices_;
   PosixDisk disk_;
   Programme programme_;
 };

@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "bench/line_by_line.h"
 #include "core/text.h"
 #include "log_maker.h"
 #include "qsl/multi_qsl_window.h"
 #include "station_run.h"
-#include "support/line_by_line.h"
 #include "tallies/rebuild.h"
 
 namespace vorelio::bench {
@@ -15,8 +15,6 @@ namespace {
 
 constexpr int kFull_Log = 99999;
 constexpr int kRounds = 5;
-
-using tests::LineByLine;
 
 /// The work that a rebuild once was: the whole tally written anew for every line of the log, in memory and on no disk.
 void RewriteForEveryLine(StationRun& run, const std::string& log) {

@@ -19,7 +19,7 @@ void GiveSiteAnAddress(SettingsStore& settings) {
 
 void Page(Run& run, Args& args) {
   const std::string url_path = args.Word("path of the page");
-  tests::SiteRecord::Answer& answer = run.Devices().pages.pages[url_path];
+  doubles::SiteRecord::Answer& answer = run.Devices().pages.pages[url_path];
   if (args.Take("fail")) {
     answer = [] { return std::nullopt; };
   } else if (args.Take("empty")) {
@@ -95,7 +95,7 @@ void ExpectFetched(Run& run, Args& args) {
   ExpectOldest(run.Devices().pages.fetched, "fetched", path);
 }
 
-using PaperEvent = tests::PaperRecord::Event;
+using PaperEvent = doubles::PaperRecord::Event;
 
 std::string Printed(const std::string& text, const std::string& font) {
   return "printed " + Shown(text) + (font.empty() ? "" : " " + font);

@@ -11,31 +11,31 @@ namespace {
 
 // --- Boxes and the end ----------------------------------------------------------------------------------------------
 
-tests::Box* Oldest(Run& run, tests::Box::Kind kind) {
+doubles::Box* Oldest(Run& run, doubles::Box::Kind kind) {
   auto& boxes = run.Boxes().boxes;
   const auto found = std::find_if(boxes.begin(), boxes.end(),
-                                  [kind](const tests::Box& box) { return box.kind == kind && !box.expected; });
+                                  [kind](const doubles::Box& box) { return box.kind == kind && !box.expected; });
   return found == boxes.end() ? nullptr : &*found;
 }
 
-void ExpectBox(Run& run, Args& args, tests::Box::Kind kind, const std::string& word) {
+void ExpectBox(Run& run, Args& args, doubles::Box::Kind kind, const std::string& word) {
   const bool part = args.Take("contains");
   const std::string text = args.Text("text");
   args.End();
-  tests::Box* box = Oldest(run, kind);
+  doubles::Box* box = Oldest(run, kind);
   const std::string expected = word + (part ? " containing " : " ") + Shown(text);
   if (!box) Differs(expected, "none");
   box->expected = true;
   if (part ? box->text.find(text) == std::string::npos : box->text != text) Differs(expected, Shown(box->text));
 }
 
-void ExpectMessage(Run& run, Args& args) { ExpectBox(run, args, tests::Box::Kind::Message, "message"); }
-void ExpectQuestion(Run& run, Args& args) { ExpectBox(run, args, tests::Box::Kind::Question, "question"); }
+void ExpectMessage(Run& run, Args& args) { ExpectBox(run, args, doubles::Box::Kind::Message, "message"); }
+void ExpectQuestion(Run& run, Args& args) { ExpectBox(run, args, doubles::Box::Kind::Question, "question"); }
 
 void ExpectFatal(Run& run, Args& args) {
   const int number = args.Number("error number");
   args.End();
-  tests::Box* box = Oldest(run, tests::Box::Kind::Fatal);
+  doubles::Box* box = Oldest(run, doubles::Box::Kind::Fatal);
   const std::string expected = "run-time error " + std::to_string(number);
   if (!box) Differs(expected, "none");
   box->expected = true;
@@ -153,8 +153,8 @@ void Expect(Run& run, Args& args) {
 // --- Showing --------------------------------------------------------------------------------------------------------
 
 void ShowMessages(Run& run) {
-  for (const tests::Box& box : run.Boxes().boxes) {
-    const bool question = box.kind == tests::Box::Kind::Question;
+  for (const doubles::Box& box : run.Boxes().boxes) {
+    const bool question = box.kind == doubles::Box::Kind::Question;
     run.Print(std::string(question ? "question " : "message ") + Shown(box.text) +
               (box.expected ? "" : ", not expected yet"));
   }

@@ -1,6 +1,6 @@
 #include "core/programme.h"
+#include "doubles/services.h"
 #include "pilot/way.h"
-#include "support/doubles.h"
 
 namespace vorelio::pilot {
 
@@ -118,8 +118,8 @@ class FormsWay : public Way {
     return target && Do(control, [=] { target->SetFocus(); });
   }
 
-  tests::MapSettings settings_;
-  tests::SilentWindows windows_;
+  doubles::MapSettings settings_;
+  doubles::SilentWindows windows_;
   ScriptMessages messages_;
   ScriptDialogs dialogs_;
 };

@@ -7,8 +7,8 @@
 #include "core/log_line.h"
 #include "core/station_files.h"
 #include "core/text.h"
+#include "doubles/ready_station.h"
 #include "pilot/commands.h"
-#include "support/ready_station.h"
 
 /// What makes the place ready: the station, files, settings, the clock.
 namespace vorelio::pilot {
@@ -30,7 +30,7 @@ void Station(Run& run, Args& args) {
   std::replace(call.begin(), call.end(), '/', '_');
   Programme outside(run.Stand());
   Sous_Programmes::Cree_Fichiers_Station(outside, call);
-  tests::SeedStationSettings(run.Settings(), run.Folder().Path(), '/', call, locator);
+  doubles::SeedStationSettings(run.Settings(), run.Folder().Path(), '/', call, locator);
 }
 
 void Setting(Run& run, Args& args) {

@@ -17,7 +17,7 @@ void Replace(std::string& text, std::string_view from, std::string_view to) {
 
 Run::Run(const Scenario& scenario, const WayMaker& make_way, Starter starter, std::ostream& out)
     : scenario_(scenario), starter_(std::move(starter)), out_(out) {
-  tests::CopyTemplates(folder_.Path());
+  doubles::CopyTemplates(folder_.Path());
   way_ = make_way(*this);
 }
 
@@ -145,9 +145,9 @@ void Run::Fail(int line, const std::string& text) {
   failed_ = true;
   out_ << Place(line) << text << '\n';
   for (const std::string& note : notes_) out_ << note << '\n';
-  for (const tests::Box& box : boxes_.boxes) {
-    if (box.kind == tests::Box::Kind::Question || box.expected) continue;
-    const bool fatal = box.kind == tests::Box::Kind::Fatal;
+  for (const doubles::Box& box : boxes_.boxes) {
+    if (box.kind == doubles::Box::Kind::Question || box.expected) continue;
+    const bool fatal = box.kind == doubles::Box::Kind::Fatal;
     out_ << Place(box.line) << "note: " << (fatal ? "the program ended with " : "the message ") << Shown(box.text)
          << (fatal ? "" : " was shown") << '\n';
   }
@@ -155,10 +155,10 @@ void Run::Fail(int line, const std::string& text) {
 }
 
 void Run::JudgeBoxes() {
-  for (tests::Box& box : boxes_.boxes) {
-    if (box.kind == tests::Box::Kind::Question || box.expected) continue;
+  for (doubles::Box& box : boxes_.boxes) {
+    if (box.kind == doubles::Box::Kind::Question || box.expected) continue;
     box.expected = true;  // Told here, so that it isn't noted again.
-    const bool fatal = box.kind == tests::Box::Kind::Fatal;
+    const bool fatal = box.kind == doubles::Box::Kind::Fatal;
     return Fail(box.line, fatal ? "expected no run-time error, found " + std::to_string(boxes_.fatal_number) + ": " +
                                       Shown(box.text)
                                 : "expected no message, found " + Shown(box.text));

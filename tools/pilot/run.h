@@ -10,13 +10,13 @@
 #include <vector>
 
 #include "core/programme.h"
+#include "doubles/devices.h"
+#include "doubles/scratch_folder.h"
+#include "doubles/services.h"
 #include "pilot/scenario.h"
 #include "pilot/way.h"
 #include "pilot/words.h"
 #include "platform/posix_disk.h"
-#include "support/devices.h"
-#include "support/doubles.h"
-#include "support/scratch_folder.h"
 
 namespace vorelio::pilot {
 
@@ -35,7 +35,7 @@ class Run : private Script {
 
   // --- For the commands ---
 
-  const tests::ScratchFolder& Folder() const { return folder_; }
+  const doubles::ScratchFolder& Folder() const { return folder_; }
   /// A path of the scenario, absolute; UTF-8.
   std::string Path(const std::string& path) const;
   /// `{dir}` and `{/}` resolved.
@@ -43,10 +43,10 @@ class Run : private Script {
 
   Way& way() const { return *way_; }
   SettingsStore& Settings() const { return way_->Settings(); }
-  tests::FixedClock& Clock() { return clock_; }
-  tests::BoxRecord& Boxes() { return boxes_; }
+  doubles::FixedClock& Clock() { return clock_; }
+  doubles::BoxRecord& Boxes() { return boxes_; }
   std::deque<std::string>& Choices() { return choices_; }
-  tests::Devices& Devices() { return devices_; }
+  doubles::Devices& Devices() { return devices_; }
 
   /// What a run of the program stands on here.
   Platform Stand();
@@ -94,11 +94,11 @@ class Run : private Script {
   bool failed_ = false;
   std::vector<std::string> notes_;
 
-  tests::ScratchFolder folder_;
-  tests::ScratchFolder way_folder_;
-  tests::FixedClock clock_;
-  tests::BoxRecord boxes_;
-  tests::Devices devices_;
+  doubles::ScratchFolder folder_;
+  doubles::ScratchFolder way_folder_;
+  doubles::FixedClock clock_;
+  doubles::BoxRecord boxes_;
+  doubles::Devices devices_;
   std::deque<std::string> choices_;
   PosixDisk disk_;
   std::unique_ptr<Way> way_;

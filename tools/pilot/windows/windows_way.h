@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "doubles/scratch_folder.h"
 #include "pilot/way.h"
-#include "support/scratch_folder.h"
 
 class QApplication;
 
@@ -19,7 +19,7 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
 
  private:
-  tests::ScratchFolder home_;
+  doubles::ScratchFolder home_;
   int count_ = 1;
   char name_[6] = "pilot";
   char* arguments_[2] = {name_, nullptr};

@@ -1,4 +1,4 @@
-#include "support/doubles.h"
+#include "doubles/services.h"
 
 #include <algorithm>
 #include <chrono>
@@ -7,7 +7,7 @@
 #include "core/errors.h"
 #include "platform/controls.h"
 
-namespace vorelio::tests {
+namespace vorelio::doubles {
 
 // --- Settings -------------------------------------------------------------------------------------------------------
 
@@ -184,4 +184,4 @@ void SilentWindows::WaitForEvent() {
   OnWait();
 }
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::doubles

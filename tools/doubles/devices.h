@@ -10,7 +10,7 @@
 #include "platform/platform.h"
 
 /// Doubles of what stands around the computer: printer, transceiver, web, sounds, clipboard, documents.
-namespace vorelio::tests {
+namespace vorelio::doubles {
 
 /// Keeps what is printed.
 class PaperRecord : public PrinterService {
@@ -112,4 +112,4 @@ struct Devices {
                 WindowService& windows, Disk& disk, const std::string& directory);
 };
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::doubles

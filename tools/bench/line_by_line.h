@@ -9,7 +9,7 @@
 #include "core/log_line.h"
 #include "core/text.h"
 
-namespace vorelio::tests {
+namespace vorelio::bench {
 
 /// The rebuilds as they would be with a rewriting of the whole tally for every line of the log: slow, and the judge.
 class LineByLine {
@@ -89,4 +89,4 @@ class LineByLine {
   bool failed_ = false;
 };
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::bench

@@ -12,7 +12,7 @@
 #include "platform/platform.h"
 
 /// Doubles of the platform's services, for unit tests and the pilot. All texts are the program's (Windows-1252).
-namespace vorelio::tests {
+namespace vorelio::doubles {
 
 /// The settings store, in memory.
 class MapSettings : public SettingsStore {
@@ -140,4 +140,4 @@ class SilentWindows : public WindowService {
   void WaitForEvent() override;
 };
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::doubles

@@ -1,11 +1,11 @@
-#include "support/scratch_folder.h"
+#include "doubles/scratch_folder.h"
 
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <system_error>
 
-namespace vorelio::tests {
+namespace vorelio::doubles {
 
 namespace fs = std::filesystem;
 
@@ -58,4 +58,4 @@ void CopyTemplates(const fs::path& folder) {
   }
 }
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::doubles

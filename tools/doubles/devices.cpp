@@ -1,10 +1,10 @@
-#include "support/devices.h"
+#include "doubles/devices.h"
 
 #include <algorithm>
 
 #include "core/errors.h"
 
-namespace vorelio::tests {
+namespace vorelio::doubles {
 
 // --- Printer --------------------------------------------------------------------------------------------------------
 
@@ -95,4 +95,4 @@ Platform Devices::Join(SettingsStore& settings, MessageService& messages, FileDi
           serial,   pages,    sounds,  clipboard, documents, directory, '/'};
 }
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::doubles

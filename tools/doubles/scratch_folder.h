@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vorelio::tests {
+namespace vorelio::doubles {
 
 /// A folder of its own under the system's temporary one, gone with the object. File names are UTF-8, as the system's.
 class ScratchFolder {
@@ -33,4 +33,4 @@ class ScratchFolder {
 /// Copies what the program is delivered with (the template station's files, the directory) into a folder.
 void CopyTemplates(const std::filesystem::path& folder);
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::doubles

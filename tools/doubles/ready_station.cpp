@@ -1,10 +1,10 @@
-#include "support/ready_station.h"
+#include "doubles/ready_station.h"
 
 #include <utility>
 
 #include "core/text.h"
 
-namespace vorelio::tests {
+namespace vorelio::doubles {
 
 void SeedStationSettings(SettingsStore& settings, const std::string& directory, char separator, const std::string& call,
                          const std::string& locator) {
@@ -35,4 +35,4 @@ void SeedStationSettings(SettingsStore& settings, const std::string& directory, 
   for (const auto& [key, value] : own) settings.Write("DDFM", "Setup " + call, key, value);
 }
 
-}  // namespace vorelio::tests
+}  // namespace vorelio::doubles
