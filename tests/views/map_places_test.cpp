@@ -51,7 +51,8 @@ TEST(MapPlaces, EachCellLiesInItsSquare) {
     const maps::Position corner = maps::FieldCorner(field);
     for (int n = 0; n < 100; ++n) {
       const auto [left, top] = Place_Carre(field, n);
-      const double east = corner.longitude + 2 * (n / 10), north = corner.latitude + n % 10;
+      const int column = n / 10, row = n % 10;
+      const double east = corner.longitude + 2 * column, north = corner.latitude + row;
       const Spot south_west = maps::OnField(corner, {east, north});
       const Spot north_east = maps::OnField(corner, {east + 2, north + 1});
       EXPECT_TRUE(left >= south_west.x && left + kLargeur_Case <= north_east.x) << field << n;

@@ -73,7 +73,7 @@ class LineByLine {
         }
         if (band < 0 && kind_ == Kind::Locator) break;
         if (band >= 0 && !state.empty()) {
-          char& code = row[static_cast<std::size_t>(first - 1 + band)];
+          char& code = row[static_cast<std::size_t>(first) - 1 + static_cast<std::size_t>(band)];
           if (Valeur(std::string(1, code)) <= Valeur(state)) code = state[0];
         }
       }
