@@ -125,7 +125,7 @@ class DevicesTest : public QObject {
     QtWindows windows;
     QtPages pages(windows);
     LoopbackSite site;
-    const QByteArray large(5 * 1024 * 1024, 'x');
+    const QByteArray large(qsizetype{5} * 1024 * 1024, 'x');
     site.answers = {{"/utf8", Answer("\xC3\xA9\n\xE2\x82\xAC\xD0\x96\r\n")},
                     {"/latin", Answer("\xE9\x80\n")},
                     {"/empty", Answer("")},

@@ -26,6 +26,7 @@ std::string RunStart(std::vector<std::string> words) {
       (std::filesystem::read_symlink("/proc/self/exe").parent_path() / "bench_start").string();
   words.insert(words.begin(), program);
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
 

@@ -25,6 +25,7 @@ std::vector<double> Medians(int rounds, const std::vector<Work>& works) {
     }
   }
   std::vector<double> medians;
+  medians.reserve(times.size());
   for (auto& values : times) medians.push_back(Median(std::move(values)));
   return medians;
 }

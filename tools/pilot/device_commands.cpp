@@ -119,7 +119,7 @@ std::string InWords(const PaperEvent& event) {
 PaperEvent NextOnPaper(Run& run, const std::string& expected) {
   auto& events = run.Devices().printer.events;
   if (events.empty()) Differs(expected, "nothing more on the printer");
-  const PaperEvent event = events.front();
+  PaperEvent event = events.front();
   events.pop_front();
   return event;
 }
