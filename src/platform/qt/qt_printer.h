@@ -20,7 +20,8 @@ class QtWindows;
 ///
 /// In PDF each job is a file of its own, the first one under the name that was chosen, the next ones under that name
 /// and the first number from 2 on that is still free. Where the dialog is cancelled, the printer last in force is used;
-/// where there has never been one, the pages go to "Vorelio.pdf" among the user's documents, and he is told so.
+/// where there has never been one, the pages go to "Vorelio.pdf" among the user's documents, or in his home, and he is
+/// told so.
 class QtPrinter : public PrinterService {
  public:
   QtPrinter(QtWindows& windows, MessageService& messages) : windows_(windows), messages_(messages) {}
