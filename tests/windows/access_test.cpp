@@ -102,6 +102,18 @@ class AccessTest : public QObject {
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
   }
 
+  void ACellSpeaksItsColour() {
+    Bound bound(Make<Carte>);
+    auto& cell = static_cast<Carte&>(*bound.form).Dep(57);
+    const auto heard = [&] {
+      return QAccessible::queryAccessibleInterface(bound.bench.windows.WidgetOf(cell))->text(QAccessible::Description);
+    };
+    cell.SetColour(kDpt_QSL_Recue);
+    QCOMPARE(heard(), QStringLiteral("QSL reçue"));
+    cell.SetColour(kFond_Fenetre);
+    QCOMPARE(heard(), QString());
+  }
+
   void MnemonicsDoNotClash_data() { AddForms(); }
   void MnemonicsDoNotClash() {
     QFETCH(int, number);

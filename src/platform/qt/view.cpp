@@ -6,10 +6,22 @@
 #include <QScopedValueRollback>
 
 #include "core/programme.h"
+#include "entry/ddfm.h"
 
 namespace vorelio {
 
 namespace {
+
+/// What the colour of a cell says, for those who hear it; empty for one that says nothing.
+QString StateOf(Couleur colour) {
+  switch (colour) {
+    case kDpt_Contacte: return QStringLiteral("contacté");
+    case kDpt_QSL_Envoyee: return QStringLiteral("QSL envoyée");
+    case kDpt_QSL_Recue: return QStringLiteral("QSL reçue");
+    case kDpt_Confirme: return QStringLiteral("confirmé");
+    default: return {};
+  }
+}
 
 /// A field's title comes and goes with it.
 void ShowTitle(const QWidget& widget, bool visible) {
@@ -91,7 +103,12 @@ bool WidgetView::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
-void WidgetView::ShowColour() { PaintField(widget_, control_.Colour()); }
+void WidgetView::ShowColour() {
+  PaintField(widget_, control_.Colour());
+  const QString state = StateOf(control_.Colour());
+  if (widget_.accessibleDescription() == spoken_state_) widget_.setAccessibleDescription(state);
+  spoken_state_ = state;
+}
 
 // --- Colours --------------------------------------------------------------------------------------------------------
 

@@ -91,6 +91,7 @@ class WidgetView : public View {
 
  private:
   Control& control_;
+  QString spoken_state_;
 };
 
 /// A view that knows its control's kind.
