@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QLineEdit>
+#include "platform/qt/arrow_cell.h"
 
 namespace vorelio {
 
-/// A cell of a grid of fields: reached by a click or from its neighbours with the arrow keys. Only the first one is in
-/// the tab chain, and not even that where the grid has the property "hors_chaine".
-class GridCell : public QLineEdit {
+/// A cell of a grid of fields.
+class GridCell : public ArrowCell {
  public:
   explicit GridCell(QWidget& holder);
 
@@ -14,7 +13,7 @@ class GridCell : public QLineEdit {
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override;
+  QWidget* Neighbour(QPoint ahead) const override;
 };
 
 }  // namespace vorelio

@@ -1,6 +1,5 @@
 #include "platform/qt/picture_board.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -100,13 +99,6 @@ void PictureBoard::PaintAbsence(QPainter& painter, const QRect& stand) const {
 
 // --- Cells ----------------------------------------------------------------------------------------------------------
 
-PictureCell::PictureCell(PictureBoard& board) : QLineEdit(&board) {
-  setFocusPolicy(Qt::ClickFocus);
-  setAlignment(Qt::AlignCenter);
-  setContextMenuPolicy(Qt::NoContextMenu);
-  setProperty("cellule", true);
-}
-
 void PictureCell::resizeEvent(QResizeEvent* event) {
   // Bold Arial of eight points on a cell of twenty pixels, and as the cell grows.
   constexpr double kLetter = 0.56;
@@ -114,19 +106,11 @@ void PictureCell::resizeEvent(QResizeEvent* event) {
   letters.setBold(true);
   letters.setPixelSize(std::max(6, static_cast<int>(std::lround(height() * kLetter))));
   setFont(letters);
-  QLineEdit::resizeEvent(event);
+  ArrowCell::resizeEvent(event);
 }
 
-void PictureCell::keyPressEvent(QKeyEvent* event) {
-  QPoint ahead;
-  switch (event->key()) {
-    case Qt::Key_Left: ahead = {-1, 0}; break;
-    case Qt::Key_Right: ahead = {1, 0}; break;
-    case Qt::Key_Up: ahead = {0, -1}; break;
-    case Qt::Key_Down: ahead = {0, 1}; break;
-    default: QLineEdit::keyPressEvent(event); return;
-  }
-  // The nearest one in that direction; what lies aside counts twice.
+// What lies aside counts twice.
+QWidget* PictureCell::Neighbour(QPoint ahead) const {
   const QPoint here = geometry().center();
   QWidget* next = nullptr;
   int nearest = 0;
@@ -140,8 +124,7 @@ void PictureCell::keyPressEvent(QKeyEvent* event) {
     next = other;
     nearest = distance;
   }
-  // The reason of a tab tells the model that the user has come here.
-  if (next) next->setFocus(Qt::TabFocusReason);
+  return next;
 }
 
 }  // namespace vorelio

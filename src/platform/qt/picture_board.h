@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QImage>
-#include <QLineEdit>
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
 #include <vector>
+
+#include "platform/qt/arrow_cell.h"
 
 namespace vorelio {
 
@@ -55,14 +56,14 @@ class PictureBoard : public QWidget {
   bool absent_ = false;
 };
 
-/// A field on a board: reached by a click, or from another one with the arrow keys. Only the first one that can be seen
-/// is in the tab chain.
-class PictureCell : public QLineEdit {
+/// A field on a board.
+class PictureCell : public ArrowCell {
  public:
-  explicit PictureCell(PictureBoard& board);
+  explicit PictureCell(PictureBoard& board) : ArrowCell(board) {}
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override;
+  /// The nearest cell in that direction.
+  QWidget* Neighbour(QPoint ahead) const override;
   void resizeEvent(QResizeEvent* event) override;
 };
 
