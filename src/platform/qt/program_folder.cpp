@@ -35,8 +35,20 @@ bool Outdated(const QString& name, const QFileInfo& source, const QFileInfo& cop
          (source.size() != copy.size() || source.lastModified() > copy.lastModified());
 }
 
-/// Copies the files that lie `below` a folder; what is the user's stays. By way of another name, for a copy that is cut
-/// short not to pass for the whole.
+/// Copies a file by way of another name, for a copy that is cut short not to pass for the whole. The copy is the
+/// user's, and he may write it.
+bool CopyWhole(const QString& source, const QString& target, QString& problem) {
+  const QString partial = target + QStringLiteral(".neuf");
+  QFile::remove(partial);
+  const bool copied =
+      QDir().mkpath(QFileInfo(target).path()) && QFile::copy(source, partial) &&
+      QFile::setPermissions(partial, QFile::permissions(partial) | QFile::ReadOwner | QFile::WriteOwner) &&
+      QFile::rename(partial, target);
+  if (!copied) problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
+  return copied;
+}
+
+/// Copies the files that lie `below` a folder; what is the user's stays.
 bool Seed(const QDir& from, const QString& below, const QDir& to, QString& problem) {
   QDirIterator files(from.filePath(below), QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
@@ -46,14 +58,7 @@ bool Seed(const QDir& from, const QString& below, const QDir& to, QString& probl
       if (!Outdated(name, QFileInfo(files.filePath()), QFileInfo(target))) continue;
       QFile::remove(target);
     }
-    const QString partial = target + QStringLiteral(".neuf");
-    QFile::remove(partial);
-    const bool copied = QDir().mkpath(QFileInfo(target).path()) && QFile::copy(files.filePath(), partial) &&
-                        QFile::setPermissions(partial, QFile::permissions(partial) | QFile::WriteOwner) &&
-                        QFile::rename(partial, target);
-    if (copied) continue;
-    problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
-    return false;
+    if (!CopyWhole(files.filePath(), target, problem)) return false;
   }
   return true;
 }
@@ -90,15 +95,11 @@ std::optional<ProgramFolder> FindProgramFolder(const QString& program, const QSt
   } else if (HoldsTemplates(own)) {
     for (const QString& name : TemplateFiles() + SoundFiles()) {
       const QString target = folder.filePath(name);
-      if (QFile::exists(target) || !own.exists(name) || QFile::copy(own.filePath(name), target)) continue;
-      problem = QStringLiteral("Impossible d'écrire le fichier %1.").arg(target);
-      return std::nullopt;
+      const bool wanted = own.exists(name) && !QFile::exists(target);
+      if (wanted && !CopyWhole(own.filePath(name), target, problem)) return std::nullopt;
     }
     for (const QString& name : OwnFolders())
       if (!Seed(own, name, folder, problem)) return std::nullopt;
-    for (const QString& name : TemplateFiles())
-      QFile::setPermissions(folder.filePath(name),
-                            QFile::permissions(folder.filePath(name)) | QFile::WriteOwner | QFile::ReadOwner);
   }
   return Described(folder);
 }
