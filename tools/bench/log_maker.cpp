@@ -26,7 +26,7 @@ class Dice {
   std::uint32_t state_ = 1;
 };
 
-std::string TwoDigits(unsigned number) { return Complete_Gauche(std::to_string(100 + number % 100), 3).substr(1); }
+std::string TwoDigits(unsigned number) { return Deux_Chiffres(static_cast<int>(number % 100)); }
 
 std::string MakeCallsign(Dice& dice) {
   constexpr std::array<std::string_view, 12> kPrefixes = {"F",  "F",  "F", "F",  "G",  "DL",
@@ -65,6 +65,13 @@ std::string MakeLog(int contacts) {
     qso.Activ_A = "0";
     log.append(Construit_Ligne(qso)).append(kFin_De_Ligne);
   }
+  return log;
+}
+
+std::string FullLogOfOneActivity() {
+  std::string log = MakeLog(kFull_Log);
+  const std::size_t step = kLargeur_Ligne + kFin_De_Ligne.size();
+  for (std::size_t line = 0; line < log.size(); line += step) log[line + champs::Activ_A.colonne - 1] = '1';
   return log;
 }
 

@@ -24,7 +24,6 @@
 namespace vorelio::bench {
 namespace {
 
-constexpr int kFull_Log = 99999;
 constexpr int kRounds = 9;
 
 void MeasureReading(std::vector<Row>& rows, int contacts) {

@@ -3,8 +3,6 @@
 #include <stdexcept>
 #include <string>
 
-#include "core/log_line.h"
-#include "core/text.h"
 #include "log_maker.h"
 #include "station_run.h"
 #include "tallies/rebuild.h"
@@ -16,24 +14,14 @@ namespace vorelio::bench {
 
 namespace {
 
-constexpr int kFull_Log = 99999;
 constexpr int kRounds = 9;
-
-/// The made log with every contact filed under the first activity: each of them goes to the map.
-std::string LogOfOneActivity() {
-  std::string log = MakeLog(kFull_Log);
-  const std::size_t length = kLargeur_Ligne + kFin_De_Ligne.size();
-  for (std::size_t line = 0; line < log.size(); line += length)
-    log[line + static_cast<std::size_t>(champs::Activ_A.colonne) - 1] = '1';
-  return log;
-}
 
 }  // namespace
 
 void MeasureMaps(std::vector<Row>& rows) {
   StationRun run(kFull_Log, DateMode::Automatic);
   Programme& programme = run.Run();
-  programme.Disque().WriteAll(run.File(".log"), LogOfOneActivity());
+  programme.Disque().WriteAll(run.File(".log"), FullLogOfOneActivity());
   programme.Recoit([&] {
     Sous_Programmes::Refait_Departements(programme);
     Sous_Programmes::Refait_Locators(programme);

@@ -13,7 +13,6 @@ namespace vorelio::bench {
 
 namespace {
 
-constexpr int kFull_Log = 99999;
 constexpr int kRounds = 5;
 
 /// The work that a rebuild once was: the whole tally written anew for every line of the log, in memory and on no disk.

@@ -4,7 +4,6 @@
 #include <stdexcept>
 #include <string>
 
-#include "core/log_line.h"
 #include "log_maker.h"
 #include "station_run.h"
 #include "views/activation_statistics_window.h"
@@ -16,7 +15,6 @@ namespace vorelio::bench {
 
 namespace {
 
-constexpr int kFull_Log = 99999;
 constexpr int kRounds = 9;
 
 void Measure(std::vector<Row>& rows, const std::string& what, const Work& work, double limit) {
@@ -33,21 +31,14 @@ Work Opening(StationRun& run) {
           [&run] { run.Run().Recoit([&run] { run.Run().Fenetre<F>().Show(); }); }};
 }
 
-/// Makes every contact of the log one of the first activity: the longest list that its window can be asked for.
-void GiveAllAnActivity(StationRun& run) {
-  std::string log = MakeLog(kFull_Log);
-  const std::size_t step = kLargeur_Ligne + kFin_De_Ligne.size();
-  for (std::size_t line = 0; line < log.size(); line += step) log[line + champs::Activ_A.colonne - 1] = '1';
-  run.Run().Disque().WriteAll(run.File(".log"), log);
-}
-
 }  // namespace
 
 void MeasureViews(std::vector<Row>& rows) {
   StationRun run(kFull_Log, DateMode::Automatic);
   Measure(rows, "Statistics of distances", Opening<Statistiques>(run), 200);
   Measure(rows, "Statistics of contacts", Opening<Statistique_QSO>(run), 200);
-  GiveAllAnActivity(run);
+  // The longest list that the window can be asked for.
+  run.Run().Disque().WriteAll(run.File(".log"), FullLogOfOneActivity());
   run.Run().Recoit([&] { run.Run().Fenetre<Statistique_DFCF>().Show(); });
   auto& activations = run.Run().Fenetre<Statistique_DFCF>();
   Measure(rows, "Activations, half the log listed",

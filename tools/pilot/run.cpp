@@ -104,10 +104,9 @@ void Run::GoOn(const std::function<bool()>& done) {
 }
 
 void Run::GoOnOnce() {
-  if (Waiting()) Step();
   // Nobody is there any more to close the window; what waits for it must not go on as if it had been closed.
-  else
-    throw Fin_Programme{};
+  if (!Waiting()) throw Fin_Programme{};
+  Step();
 }
 
 void Run::Message(const std::string& text) {

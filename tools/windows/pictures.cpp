@@ -102,11 +102,10 @@ std::string Contact(int n) {
   static constexpr std::array kPlaces = {"METZ", "NICE", "ESSEN", "DFCF 33012", "MILANO", "PARIS", "MADRID", "AJACCIO"};
   static constexpr std::array kReports = {"59", "57", "599", "55"};
   Champs_QSO qso;
-  const auto two = [](int number) { return Deux_Chiffres(number); };
-  qso.Date_A = two(1 + n / 12 % 28) + "/" + two(3 + n / 120 % 9) + "/24";
+  qso.Date_A = Deux_Chiffres(1 + n / 12 % 28) + "/" + Deux_Chiffres(3 + n / 120 % 9) + "/24";
   qso.Indicatif_A = Turn(kCalls, n);
-  qso.Debut_A = two(8 + n % 12) + ":" + two(n * 7 % 50);
-  qso.Fin_A = two(8 + n % 12) + ":" + two(n * 7 % 50 + 4);
+  qso.Debut_A = Deux_Chiffres(8 + n % 12) + ":" + Deux_Chiffres(n * 7 % 50);
+  qso.Fin_A = Deux_Chiffres(8 + n % 12) + ":" + Deux_Chiffres(n * 7 % 50 + 4);
   qso.Depart_A = Turn(kDepartments, n);
   qso.Bande_A = kBandes[static_cast<std::size_t>(10 + n % 3)];
   qso.Locator_A = Turn(kLocators, n);
