@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QDir>
 #include <QMessageBox>
 #include <QTimer>
 #include <csignal>

@@ -136,11 +136,4 @@ std::string_view Entete_Memoire(Tri tri) {
   return "     QRG     DX                  QTR           Spotter                       Remarques        ";
 }
 
-// --- Filters --------------------------------------------------------------------------------------------------------
-
-bool Station_Francaise(std::string_view DX) {
-  static constexpr std::string_view kSeries[] = {"TH", "TK", "TM", "TP", "TQ", "TV", "TW", "HW", "HX", "HY"};
-  return DX.starts_with('F') || std::find(std::begin(kSeries), std::end(kSeries), DX.substr(0, 2)) != std::end(kSeries);
-}
-
 }  // namespace vorelio

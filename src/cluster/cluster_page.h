@@ -92,9 +92,4 @@ std::string Ligne_De_Liste(const Spot& spot, Tri tri);
 std::string_view Entete_Liste(Tri tri);
 std::string_view Entete_Memoire(Tri tri);
 
-// --- Filters --------------------------------------------------------------------------------------------------------
-
-/// Whether a call is one of France's: its first letter is "F", or its first two are of a French special series.
-bool Station_Francaise(std::string_view DX);
-
 }  // namespace vorelio

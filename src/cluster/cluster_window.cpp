@@ -9,6 +9,7 @@
 #include "core/clock_text.h"
 #include "core/errors.h"
 #include "core/text.h"
+#include "tallies/prefix_tally.h"
 
 namespace vorelio {
 
@@ -204,7 +205,7 @@ void Cluster::Liste_Page(const std::string& texte) {
         lignes.push_back(ligne);
       };
       const bool francaises = Check1.Checked(), prefixe = Check2.Checked();
-      if (francaises && Station_Francaise(spot->DX)) retient();
+      if (francaises && Indicatif_Francais(spot->DX)) retient();
       if (prefixe && spot->DX.starts_with(Majuscules(Indicatif.Text()))) retient();
       if (!francaises && !prefixe) lignes.push_back(ligne);
     }

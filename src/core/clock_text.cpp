@@ -7,16 +7,12 @@ namespace vorelio::Sous_Programmes {
 
 namespace {
 
-std::string Deux(int nombre) {
-  return {static_cast<char>('0' + nombre / 10 % 10), static_cast<char>('0' + nombre % 10)};
-}
-
 std::string Date(const Instant& instant) {
-  return Deux(instant.day) + "/" + Deux(instant.month) + "/" + Deux(instant.year);
+  return Deux_Chiffres(instant.day) + "/" + Deux_Chiffres(instant.month) + "/" + Deux_Chiffres(instant.year % 100);
 }
 
 std::string Heure(const Instant& instant) {
-  return Deux(instant.hour) + ":" + Deux(instant.minute) + ":" + Deux(instant.second);
+  return Deux_Chiffres(instant.hour) + ":" + Deux_Chiffres(instant.minute) + ":" + Deux_Chiffres(instant.second);
 }
 
 /// `modele` has "9" where a digit is due; every other character stands for itself.
@@ -35,7 +31,7 @@ std::string Date_Locale(Programme& programme) { return Date(programme.plateforme
 
 std::string Date_Du_Jour(Programme& programme) {
   const Instant instant = programme.plateforme.clock.Local();
-  return Deux(instant.day) + "/" + Deux(instant.month) + "/" + std::to_string(instant.year);
+  return Deux_Chiffres(instant.day) + "/" + Deux_Chiffres(instant.month) + "/" + std::to_string(instant.year);
 }
 
 std::string Heure_UTC(Programme& programme) { return Heure(programme.plateforme.clock.Utc()); }

@@ -36,23 +36,26 @@ void Annonce_Numero(Programme& programme, int numero) {
   programme.Fenetre<DDFM>().Frame4.SetCaption("QSO numéro "_t + std::to_string(numero));
 }
 
+std::string Texte_Log(Programme& programme) {
+  return programme.Disque().ReadAll(programme.Chemin_Log(programme.contexte.Station_Indicatif));
+}
+
+void Liste_Log(Programme& programme, std::string_view station, ListBox& liste) {
+  liste.ClearItems();
+  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Log(station));
+  int numero = 1;
+  for (Lecteur_Lignes lignes(texte); !lignes.Fini(); ++numero) {
+    Ajoute_Numerotee(liste, numero, lignes.Suivante());
+    programme.Traite_Evenements();
+  }
+}
+
 void Charge_Log(Programme& programme, std::string_view station) {
   auto& ddfm = programme.Fenetre<DDFM>();
   auto& chargement = programme.Fenetre<Chargement>();
   ddfm.Hide();
   chargement.Show();
-  ddfm.Liste_QSO.ClearItems();
-
-  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Log(station));
-  int numero = 1;
-  std::string element;
-  for (Lecteur_Lignes lignes(texte); !lignes.Fini(); ++numero) {
-    element = Colonne_Numero(numero);
-    element.append(lignes.Suivante());
-    ddfm.Liste_QSO.AddItem(element);
-    programme.Traite_Evenements();
-  }
-
+  Liste_Log(programme, station, ddfm.Liste_QSO);
   programme.contexte.Nb_QSO = ddfm.Liste_QSO.Count();
   Annonce_Numero(programme, programme.contexte.Nb_QSO + 1);
   chargement.Hide();
@@ -76,8 +79,7 @@ void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::stri
 void Insere_QSO_Log(Programme& programme, std::string_view ligne) {
   auto& ddfm = programme.Fenetre<DDFM>();
   const auto moment = [](std::string_view qso) {
-    return Moment_QSO(Coupe(qso, champs::Date_A.colonne, champs::Date_A.largeur),
-                      Coupe(qso, champs::Debut_A.colonne, champs::Debut_A.largeur));
+    return Moment_QSO(Champ_Log(qso, champs::Date_A), Champ_Log(qso, champs::Debut_A));
   };
 
   ddfm.Liste_QSO_Bis.ClearItems();

@@ -9,6 +9,13 @@
 /// rewritten in place from the list; what is reported as done is on the disk.
 namespace vorelio::Sous_Programmes {
 
+/// The text of the current station's log. A missing log is run-time error 53.
+std::string Texte_Log(Programme& programme);
+
+/// Fills a list with the log of `station`, each line behind its number. Events are served meanwhile. A missing log is
+/// run-time error 53, a line beyond the 99999th is error 5; the list is empty then, or ends before that line.
+void Liste_Log(Programme& programme, std::string_view station, ListBox& liste);
+
 /// Fills `Liste_QSO` from the log of `station`, sets `Nb_QSO` and the next number in `Frame4`. A missing log is
 /// run-time error 53, a line beyond the 99999th is error 5.
 void Charge_Log(Programme& programme, std::string_view station);

@@ -43,16 +43,27 @@ inline constexpr Champ Remarques_A{169, 30, 0};
 
 /// Reserved columns, QSL state and both QSL dates: what an edit carries along without looking at it.
 inline constexpr Champ Bloc_QSL{128, 27, 0};
+
+/// What of the department is compared and tallied: no department uses the third character.
+inline constexpr Champ Depart_Court{37, 2, 0};
 }  // namespace champs
 
-/// A field of a `Ligne_Log`, trimmed. The result looks into `ligne`.
-inline std::string_view Lit_Log(std::string_view ligne, const Champ& champ) {
-  return Rogne(Coupe(ligne, champ.colonne, champ.largeur));
+/// A field of a `Ligne_Log` at its full width, blanks included. The results here look into `ligne`.
+inline std::string_view Champ_Log(std::string_view ligne, const Champ& champ) {
+  return Coupe(ligne, champ.colonne, champ.largeur);
 }
+
+/// The same of a `Ligne_Liste`.
+inline std::string_view Champ_Liste(std::string_view ligne, const Champ& champ) {
+  return Coupe(ligne, champ.colonne + kColonnes_Numero, champ.largeur);
+}
+
+/// A field of a `Ligne_Log`, trimmed.
+inline std::string_view Lit_Log(std::string_view ligne, const Champ& champ) { return Rogne(Champ_Log(ligne, champ)); }
 
 /// A field of a `Ligne_Liste`, trimmed.
 inline std::string_view Lit_Liste(std::string_view ligne, const Champ& champ) {
-  return Rogne(Coupe(ligne, champ.colonne + kColonnes_Numero, champ.largeur));
+  return Rogne(Champ_Liste(ligne, champ));
 }
 
 /// The 199 characters of a `Ligne_Liste` behind its number.

@@ -24,11 +24,13 @@ std::string Programme::Chemin_Station(std::string_view suite) const {
   return Chemin(contexte.Station_Indicatif).append(suite);
 }
 
+std::string Programme::Chemin_Modele(std::string_view suite) const { return Chemin(kStation_Modele).append(suite); }
+
 std::string Programme::Chemin_Log(std::string_view station) const { return Chemin(station) + ".log"; }
 
 // --- Boxes ----------------------------------------------------------------------------------------------------------
 
-// A box waits for the user, and while it waits the program can be ended.
+// A box or a dialog waits for the user, and while it waits the program can be ended.
 void Programme::Message(const std::string& texte) const {
   plateforme.messages.Show(texte);
   Quitte_Si_Termine();
@@ -44,6 +46,18 @@ bool Programme::Avertissement(const std::string& texte) const {
   const bool oui = plateforme.messages.Ask(texte, Buttons::OkCancel, Icon::Critical);
   Quitte_Si_Termine();
   return oui;
+}
+
+std::string Programme::Choisit_Fichier(const std::string& filtre) const {
+  std::string fichier = plateforme.dialogs.Open(Chemin_Programme(), filtre);
+  Quitte_Si_Termine();
+  return fichier;
+}
+
+std::string Programme::Choisit_Nom(const std::string& propose, const std::string& filtre) const {
+  std::string fichier = plateforme.dialogs.Save(Chemin_Programme(), propose, filtre);
+  Quitte_Si_Termine();
+  return fichier;
 }
 
 // --- Windows --------------------------------------------------------------------------------------------------------

@@ -38,6 +38,8 @@ class Programme {
   std::string Chemin(std::string_view fichier) const;
   /// The file of the current station: its callsign and `suite`, for instance "_Departement.txt".
   std::string Chemin_Station(std::string_view suite) const;
+  /// The same of the template station.
+  std::string Chemin_Modele(std::string_view suite) const;
   /// The log of a station. It is one file, whatever the case of its ending.
   std::string Chemin_Log(std::string_view station) const;
 
@@ -48,6 +50,10 @@ class Programme {
   bool Question(const std::string& texte) const;
   /// OK or Cancel, with the critical sign.
   bool Avertissement(const std::string& texte) const;
+  /// Path of a file to read, from the dialog that starts in the program's directory; empty if it was cancelled.
+  std::string Choisit_Fichier(const std::string& filtre) const;
+  /// The same for a file to write, under the name that is proposed or another.
+  std::string Choisit_Nom(const std::string& propose, const std::string& filtre) const;
 
   // --- Windows ---
 

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <utility>
 
 #include "core/errors.h"
@@ -14,7 +13,7 @@
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "geo/locator.h"
-#include "maintenance/activity_file.h"
+#include "maintenance/activities.h"
 
 namespace vorelio {
 
@@ -60,9 +59,7 @@ Station::Station(Programme& programme)
     : Form(programme, "Station", "Identification de la station"),
       Label5(*this, "Label5", "Le / est remplacé par _ à la saisie"_t) {
   // The fields wait for Enter on the row "Nouvel Indicatif", the button for a station to take over.
-  for (Control* controle :
-       std::initializer_list<Control*>{&New_Indicatif, &New_Locator, &Label3, &Label4, &Label5, &Validation})
-    controle->SetEnabled(false);
+  EnableAll({&New_Indicatif, &New_Locator, &Label3, &Label4, &Label5, &Validation}, false);
 
   Liste_Indicatifs.KeyPress = [this](int& touche) { Liste_Indicatifs_KeyPress(touche); };
   New_Indicatif.KeyPress = [this](int& touche) { New_Indicatif_KeyPress(touche); };
@@ -99,8 +96,7 @@ void Station::Liste_Indicatifs_KeyPress(int& touche) {
   touche = 0;
   Liste_Indicatifs.SetColour(kFace_Bouton);
   if (Nouvel_Indicatif_Choisi()) {
-    for (Control* controle : std::initializer_list<Control*>{&New_Indicatif, &New_Locator, &Label3, &Label4, &Label5})
-      controle->SetEnabled(true);
+    EnableAll({&New_Indicatif, &New_Locator, &Label3, &Label4, &Label5}, true);
     New_Indicatif.Clear();
     New_Locator.Clear();
     New_Indicatif.SetColour(kSaisie);

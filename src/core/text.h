@@ -9,7 +9,7 @@
 /// Every width and column of the program counts characters, so a text must never be anything else inside.
 namespace vorelio {
 
-// --- Literals -------------------------------------------------------------------------------------------------------
+// --- Character set ---------------------------------------------------------------------------------------------------
 
 /// The Windows-1252 byte of a Unicode code point, or nothing if the set has none.
 /// The five bytes that Windows leaves unassigned stand for the control characters of the same number.

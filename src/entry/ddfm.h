@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -8,15 +9,6 @@
 #include "platform/controls.h"
 
 namespace vorelio {
-
-/// Cells of the grid by tally code.
-inline constexpr Couleur kDpt_Contacte = 0xC0C0FF;
-inline constexpr Couleur kDpt_QSL_Envoyee = 0x00FFFF;
-inline constexpr Couleur kDpt_QSL_Recue = 0xFFFF80;
-inline constexpr Couleur kDpt_Confirme = 0x80FF80;
-
-/// Corsica in the operator's form: "96" and "97" become "2a" and "2b", all else stays.
-std::string Forme_Affichee(const std::string& departement);
 
 /// The main window: one entry chain driven by Enter, the department grid, the log underneath, and the menus. Its
 /// definitions stand in chapters: ddfm_start.cpp, ddfm_callsign_chain.cpp, ddfm_activation.cpp, ddfm_date_reports.cpp,
@@ -186,8 +178,14 @@ class DDFM : public Form {
   bool Rien_De_Choisi();
   void Montre_Ligne();
   void Montre_QSL();
+  /// Empties the fields of a contact, as before a new one.
+  void Vide_Saisie();
+  /// Waits for a callsign, every field behind it locked.
+  void Attend_Indicatif();
 
   // Grid.
+  /// The text of a cell in department mode.
+  static std::string Texte_Cellule(int cellule);
   void Grille_Departements();
   void Grille_Carres();
   bool Bande_Sans_Carres();

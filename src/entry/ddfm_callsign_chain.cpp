@@ -11,19 +11,6 @@ namespace vorelio {
 
 using namespace Sous_Programmes;
 
-namespace {
-
-/// Corsica: the operator and the log see "2a" and "2b", the tallies and the directory "96" and "97".
-std::string Forme_Pointage(const std::string& departement) {
-  return departement == "2a" ? "96" : departement == "2b" ? "97" : departement;
-}
-
-}  // namespace
-
-std::string Forme_Affichee(const std::string& departement) {
-  return departement == "96" ? "2a" : departement == "97" ? "2b" : departement;
-}
-
 /// Enter outside an edit: only then a field of the chain acts.
 bool DDFM::Acceptee(int touche) const { return touche == kEntree && !programme_.saisie.QSO_Edition; }
 

@@ -9,6 +9,12 @@ namespace vorelio {
 
 using namespace Sous_Programmes;
 
+std::string DDFM::Texte_Cellule(int cellule) {
+  constexpr int kAncienne_Corse = 20;
+  if (cellule == kAncienne_Corse) return "X";
+  return cellule > 97 ? "" : Forme_Affichee(Deux_Chiffres(cellule));
+}
+
 void DDFM::Legende_Departements() {
   const auto& contexte = programme_.contexte;
   Frame3.SetCaption(Texte_Nombre_Blanc(contexte.Nb_Contactes) + " Départements sur "_t + contexte.Bande_Grille);
@@ -45,11 +51,7 @@ void DDFM::Option1_Click() {
     programme_.contexte.Bande_Grille = Bande_DDFM.Text();
     if (Bande_Sans_Carres()) return;
   }
-  Dpt(96).SetText(departements ? "2a" : "96");
-  Dpt(97).SetText(departements ? "2b" : "97");
-  Dpt(98).SetText(departements ? "" : "98");
-  Dpt(99).SetText(departements ? "" : "99");
-  Dpt(20).SetText(departements ? "X" : "20");
+  for (int i = 0; i < Dpt.Count(); ++i) Dpt(i).SetText(departements ? Texte_Cellule(i) : Deux_Chiffres(i));
   Carre_DDFM.SetEnabled(!departements);
   if (departements) {
     Grille_Departements();

@@ -1,5 +1,6 @@
 #include "cluster/cluster_window.h"
 #include "core/log_file.h"
+#include "core/station_files.h"
 #include "core/station_form.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
@@ -119,8 +120,8 @@ void DDFM::Mnu_RAZ_All_Click() {
   if (!programme_.Avertissement("!!! ATTENTION !!! tout les fichiers " + contexte.Station_Indicatif +
                                 " vont etre effacé , Continuer ?"_t))
     return;
-  for (const char* suite : {".log", "_Departement.txt", "_Prefixe.txt", "_Locator.txt"})
-    programme_.Disque().Copy(programme_.Chemin(std::string(kStation_Modele) + suite), programme_.Chemin_Station(suite));
+  for (const char* suite : {".log", kSuite_Departement, kSuite_Prefixe, kSuite_Locator})
+    programme_.Disque().Copy(programme_.Chemin_Modele(suite), programme_.Chemin_Station(suite));
   Bande_A.SetEnabled(true);
   Bande_A.SetFocus();
   Affiche_Departements(programme_, contexte.Bande_Grille, contexte.Nb_Contactes);

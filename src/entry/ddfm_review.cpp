@@ -51,7 +51,7 @@ void DDFM::Liste_QSO_DblClick() {
   Bande_A.SetEnabled(false);
   Indicatif_A.SetEnabled(false);
   Montre_Ligne();
-  for (TextField* champ : {&Depart_A, &Locator_A, &Prenom_A, &QTH_A}) champ->SetEnabled(false);
+  EnableAll({&Depart_A, &Locator_A, &Prenom_A, &QTH_A}, false);
   Montre_QSL();
   // Computed anew: the station's locator may have changed since.
   Calcule_Distance_Azimut();
@@ -78,8 +78,28 @@ void DDFM::Editer_Click() {
 
   Enregistrer.SetEnabled(true);
   Enregistrer.SetCaption("Valider");
-  for (Button* bouton : {&Recherche, &Gestion_QSL, &Effacer, &Editer}) bouton->SetEnabled(false);
+  EnableAll({&Recherche, &Gestion_QSL, &Effacer, &Editer}, false);
   Annonce_Numero(programme_, saisie.Numero_Selection);
+}
+
+void DDFM::Vide_Saisie() {
+  for (TextField* champ : {&Indicatif_A, &Depart_A, &Locator_A, &Date_A, &Debut_A, &Fin_A, &Prenom_A, &QTH_A}) {
+    champ->Clear();
+    champ->SetColour(kFait);
+  }
+  for (TextField* report : {&RSTR_A, &RSTE_A}) {
+    report->SetText("59");
+    report->SetColour(kFait);
+  }
+  for (TextField* champ : {&QSLE_A, &QSLR_A, &Remarques_A, &Distance_A, &Azimut_A}) champ->Clear();
+  EnableAll({&QSLE_A, &QSLR_A}, false);
+}
+
+void DDFM::Attend_Indicatif() {
+  EnableAll({&Bande_A, &Indicatif_A}, true);
+  Verrouille_Champs();
+  Indicatif_A.SetFocus();
+  Indicatif_A.SetColour(kSaisie);
 }
 
 void DDFM::Effacer_Click() {
@@ -88,29 +108,13 @@ void DDFM::Effacer_Click() {
   if (!programme_.Question("Effacer le QSO avec la station " + indicatif + " ?")) return;
   Efface_Ligne_Log(programme_);
 
-  for (TextField* champ :
-       {&Indicatif_A, &Depart_A, &Locator_A, &Date_A, &Debut_A, &Fin_A, &Prenom_A, &QTH_A, &QSLE_A}) {
-    champ->Clear();
-    champ->SetColour(kFait);
-  }
+  Vide_Saisie();
+  QSLE_A.SetColour(kFait);
   Mode_A.SetText("SSB");
   Mode_A.SetColour(kFait);
-  for (TextField* report : {&RSTR_A, &RSTE_A}) {
-    report->SetText("59");
-    report->SetColour(kFait);
-  }
-  for (TextField* champ : {&QSLR_A, &Remarques_A, &Distance_A, &Azimut_A}) champ->Clear();
-  QSLE_A.SetEnabled(false);
-  QSLR_A.SetEnabled(false);
-
-  Bande_A.SetEnabled(true);
-  Indicatif_A.SetEnabled(true);
-  Verrouille_Champs();
-  Indicatif_A.SetFocus();
-  Indicatif_A.SetColour(kSaisie);
-  for (Button* bouton : {&Enregistrer, &Editer, &Effacer}) bouton->SetEnabled(false);
-  Annuler.SetEnabled(true);
-  Recherche.SetEnabled(true);
+  Attend_Indicatif();
+  EnableAll({&Enregistrer, &Editer, &Effacer}, false);
+  EnableAll({&Annuler, &Recherche}, true);
   Liste_QSO.SetListIndex(Liste_QSO.Count() - 1);
 }
 
@@ -120,37 +124,21 @@ void DDFM::Annuler_Click() {
   Choisit_Activite();
   programme_.saisie.QSO_Edition = false;
 
-  for (TextField* champ :
-       {&Indicatif_A, &Depart_A, &Locator_A, &Date_A, &Debut_A, &Fin_A, &Prenom_A, &QTH_A, &Remarques_A}) {
-    champ->Clear();
-    champ->SetColour(kFait);
-  }
+  Vide_Saisie();
+  Remarques_A.SetColour(kFait);
   for (ComboBox* liste : {&Bande_A, &Mode_A, &Activ_A}) liste->SetColour(kFait);
-  for (TextField* report : {&RSTR_A, &RSTE_A}) {
-    report->SetText("59");
-    report->SetColour(kFait);
-  }
-  for (TextField* champ : {&QSLE_A, &QSLR_A, &Distance_A, &Azimut_A}) champ->Clear();
-  QSLE_A.SetEnabled(false);
-  QSLR_A.SetEnabled(false);
 
   Legende_Departements();
   for (const auto& cellule : Dpt) cellule->SetColour(kFait);
   Affiche_Departements(programme_, programme_.contexte.Bande_Grille, programme_.contexte.Nb_Contactes);
   Label5.SetCaption("Indicatif");
 
-  Bande_A.SetEnabled(true);
-  Indicatif_A.SetEnabled(true);
-  Verrouille_Champs();
+  Attend_Indicatif();
   // The locator alone stays as it was.
   Locator_A.SetEnabled(locator_actif);
-  Indicatif_A.SetFocus();
-  Indicatif_A.SetColour(kSaisie);
-  Enregistrer.SetEnabled(false);
   Enregistrer.SetCaption("QSO Suivant");
-  for (Button* bouton : {&Annuler, &Recherche, &Gestion_QSL}) bouton->SetEnabled(true);
-  Editer.SetEnabled(false);
-  Effacer.SetEnabled(false);
+  EnableAll({&Enregistrer, &Editer, &Effacer}, false);
+  EnableAll({&Annuler, &Recherche, &Gestion_QSL}, true);
   Annonce_Numero(programme_, programme_.contexte.Nb_QSO + 1);
 }
 

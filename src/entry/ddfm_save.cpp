@@ -150,9 +150,7 @@ bool DDFM::Enregistre_Edition() {
   qso.Indicatif_A = Majuscules(qso.Indicatif_A);
   qso.Locator_A = Majuscules(qso.Locator_A);
   // Filled up to its width, or a line cut short would shift what follows.
-  qso.Bloc_QSL =
-      Complete(Coupe(Liste_QSO.Text(), champs::Bloc_QSL.colonne + kColonnes_Numero, champs::Bloc_QSL.largeur),
-               champs::Bloc_QSL.largeur);
+  qso.Bloc_QSL = Complete(Champ_Liste(Liste_QSO.Text(), champs::Bloc_QSL), champs::Bloc_QSL.largeur);
   if (qso.Activ_A == "-1") programme_.Message("Debug : Activation_A = -1");
   const std::string ligne = Colonne_Numero(saisie.Numero_Selection) + Construit_Ligne(qso);
 
@@ -165,14 +163,8 @@ bool DDFM::Enregistre_Edition() {
   NB_Debug.SetCaption("12");
   Liste_QSO.SetListIndex(saisie.Numero_Selection - 1);
 
-  for (Control* libre :
-       {static_cast<Control*>(&Indicatif_A), static_cast<Control*>(&Bande_A), static_cast<Control*>(&Recherche),
-        static_cast<Control*>(&Annuler), static_cast<Control*>(&Gestion_QSL)})
-    libre->SetEnabled(true);
-  for (Control* bloque :
-       {static_cast<Control*>(&QSLR_A), static_cast<Control*>(&QSLE_A), static_cast<Control*>(&Enregistrer),
-        static_cast<Control*>(&Editer), static_cast<Control*>(&Effacer)})
-    bloque->SetEnabled(false);
+  EnableAll({&Indicatif_A, &Bande_A, &Recherche, &Annuler, &Gestion_QSL}, true);
+  EnableAll({&QSLR_A, &QSLE_A, &Enregistrer, &Editer, &Effacer}, false);
   Verrouille_Champs();
   QSLR_A.Clear();
   QSLE_A.Clear();

@@ -6,24 +6,12 @@
 #include "core/station_form.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
-#include "maintenance/activity_file.h"
+#include "maintenance/activities.h"
 #include "tallies/department_tally.h"
 
 namespace vorelio {
 
 using namespace Sous_Programmes;
-
-namespace {
-
-std::string Texte_Cellule(int indice) {
-  if (indice == 20) return "X";
-  if (indice == 96) return "2a";
-  if (indice == 97) return "2b";
-  if (indice > 97) return "";
-  return Deux_Chiffres(indice);
-}
-
-}  // namespace
 
 DDFM::DDFM(Programme& programme)
     : Form(programme, "DDFM", "Vorelio"),
@@ -75,10 +63,7 @@ DDFM::DDFM(Programme& programme)
   Label30.SetColour(kDpt_QSL_Recue);
   Label1.SetColour(kDpt_Confirme);
   for (TextField* affichage : {&Distance_A, &Azimut_A, &QSLE_A, &QSLR_A}) affichage->SetReadOnly(true);
-  for (Control* inactif :
-       {static_cast<Control*>(&QSLE_A), static_cast<Control*>(&QSLR_A), static_cast<Control*>(&Editer),
-        static_cast<Control*>(&Effacer), static_cast<Control*>(&Enregistrer)})
-    inactif->SetEnabled(false);
+  EnableAll({&QSLE_A, &QSLR_A, &Editer, &Effacer, &Enregistrer}, false);
   Verrouille_Champs();
   Liste_QSO_Bis.SetVisible(false);
   Relie_Evenements();

@@ -36,10 +36,8 @@ std::string Heure_Adif(std::string_view heure) { return std::string(Coupe(heure,
 
 /// Department, QTH and remarks have no field of their own. The comment is written with all three empty as well.
 std::string Commentaire_Adif(std::string_view ligne) {
-  // Two characters of three: a longer department has never been of use here.
-  constexpr Champ kDepartement_Court{champs::Depart_A.colonne, 2, 0};
   return std::string("Dpt:")
-      .append(Lit_Log(ligne, kDepartement_Court))
+      .append(Lit_Log(ligne, champs::Depart_Court))
       .append("  ")
       .append(Lit_Log(ligne, champs::QTH_A))
       .append(" ")

@@ -9,43 +9,31 @@ namespace vorelio {
 
 namespace {
 
-/// Fields of a `Ligne_Liste` at their full width, as the companions' columns want them.
-class Item {
- public:
-  explicit Item(std::string_view ligne) : ligne_(ligne) {}
+// The companions' columns want the fields at their full width, or at the start of it.
 
-  std::string_view Champ_Entier(const Champ& champ) const { return Debut(champ, champ.largeur); }
-  std::string_view Debut(const Champ& champ, int largeur) const {
-    return Coupe(ligne_, champ.colonne + kColonnes_Numero, largeur);
-  }
-
- private:
-  std::string_view ligne_;
-};
-
-std::string Ligne_Tournoi(const Compagnon& compagnon, const Item& item, const std::string& reference) {
-  return std::string(item.Champ_Entier(champs::Date_A))
+std::string Ligne_Tournoi(const Compagnon& compagnon, std::string_view item, const std::string& reference) {
+  return std::string(Champ_Liste(item, champs::Date_A))
       .append("  ")
       .append(reference)
       .append("  ")
       .append(compagnon.site)
       .append("  ")
-      .append(item.Champ_Entier(champs::Indicatif_A));
+      .append(Champ_Liste(item, champs::Indicatif_A));
 }
 
-std::string Ligne_Diplome(const Compagnon& compagnon, const Item& item, const std::string& reference) {
-  std::string ligne(item.Champ_Entier(champs::Indicatif_A));
+std::string Ligne_Diplome(const Compagnon& compagnon, std::string_view item, const std::string& reference) {
+  std::string ligne(Champ_Liste(item, champs::Indicatif_A));
   // Lighthouses are counted by department as well.
   if (compagnon.sigle == "DPLF") {
-    ligne.append(" ").append(Majuscules(item.Debut(champs::Depart_A, 2))).append("   ");
+    ligne.append(" ").append(Majuscules(Champ_Liste(item, champs::Depart_Court))).append("   ");
   } else {
     ligne.append("      ");
   }
-  ligne.append(Majuscules(item.Champ_Entier(champs::Prenom_A)));
+  ligne.append(Majuscules(Champ_Liste(item, champs::Prenom_A)));
+  const auto debut = [item](const Champ& champ, int largeur) { return Coupe(Champ_Liste(item, champ), 1, largeur); };
   for (const std::string_view champ :
-       {std::string_view(reference), item.Champ_Entier(champs::Date_A), item.Champ_Entier(champs::Debut_A),
-        item.Debut(champs::Mode_A, 3), item.Debut(champs::Bande_A, 7), item.Debut(champs::RSTR_A, 3),
-        item.Debut(champs::RSTE_A, 3)})
+       {std::string_view(reference), Champ_Liste(item, champs::Date_A), Champ_Liste(item, champs::Debut_A),
+        debut(champs::Mode_A, 3), debut(champs::Bande_A, 7), debut(champs::RSTR_A, 3), debut(champs::RSTE_A, 3)})
     ligne.append(" ").append(champ);
   return ligne.append(" ").append(Blancs(compagnon.blancs));
 }
@@ -64,8 +52,8 @@ std::string Reference_Activation(const Compagnon& compagnon, std::string_view li
 
 std::string Ligne_Compagnon(const Compagnon& compagnon, std::string_view ligne_liste) {
   const std::string reference = Reference_Activation(compagnon, ligne_liste);
-  const Item item(ligne_liste);
-  return compagnon.tournoi ? Ligne_Tournoi(compagnon, item, reference) : Ligne_Diplome(compagnon, item, reference);
+  return compagnon.tournoi ? Ligne_Tournoi(compagnon, ligne_liste, reference)
+                           : Ligne_Diplome(compagnon, ligne_liste, reference);
 }
 
 Deja_Contacte Cherche_Reference(const Compagnon& compagnon, std::string_view texte, std::string_view reference) {

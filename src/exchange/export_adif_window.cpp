@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/errors.h"
+#include "core/log_file.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "exchange/adif_export.h"
@@ -41,8 +42,7 @@ void Export_Adif::Form_Load() { Centre(); }
 
 // The numbers stay in their fields while these are hidden.
 void Export_Adif::Montre_Tranche(bool visible) {
-  for (Control* controle : {static_cast<Control*>(&Label1), static_cast<Control*>(&Debut_Ligne),
-                            static_cast<Control*>(&Label2), static_cast<Control*>(&Fin_Ligne)})
+  for (Control* controle : std::initializer_list<Control*>{&Label1, &Debut_Ligne, &Label2, &Fin_Ligne})
     controle->SetVisible(visible);
 }
 
@@ -67,7 +67,7 @@ void Export_Adif::Exporter_Click() {
 }
 
 bool Export_Adif::Ecrit_Fichier(double debut, double fin) {
-  const std::string log = programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif));
+  const std::string log = Sous_Programmes::Texte_Log(programme_);
   if (fin > Nombre_De_Lignes(log)) return false;
   const auto tranche = Option1.Set() ? std::nullopt : std::optional(Tranche{debut, fin});
   programme_.Disque().WriteAll(programme_.Chemin_Station(kFin),

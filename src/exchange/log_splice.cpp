@@ -55,8 +55,7 @@ class Copie_Log {
   Moment Moment_Ligne(std::string_view ligne) {
     // An empty line keeps the moment of the line before; the first one has none to keep.
     if (!ligne.empty() || !genre_.lignes_vides || !precedent_)
-      precedent_ = Moment_Complet(Date_Complete(ligne, genre_.siecle_log),
-                                  Coupe(ligne, champs::Debut_A.colonne, champs::Debut_A.largeur));
+      precedent_ = Moment_Complet(Date_Complete(ligne, genre_.siecle_log), Champ_Log(ligne, champs::Debut_A));
     return *precedent_;
   }
 
@@ -87,17 +86,14 @@ Import_Log::~Import_Log() { Active_Menus(true); }
 
 // Events are served during an import: a second one would take the first one's marker away.
 void Import_Log::Active_Menus(bool actif) {
-  auto* ddfm = programme_.Ouverte<DDFM>();
-  if (!ddfm) return;
-  for (MenuItem* entree : {&ddfm->Mnu_Import_ADIF, &ddfm->Mnu_Import_EDI, &ddfm->Mnu_Import_CTF})
-    entree->SetEnabled(actif);
+  if (auto* ddfm = programme_.Ouverte<DDFM>())
+    EnableAll({&ddfm->Mnu_Import_ADIF, &ddfm->Mnu_Import_EDI, &ddfm->Mnu_Import_CTF}, actif);
 }
 
 bool Import_Log::Choisit_Fichier() {
   programme_.Fenetre<DDFM>().Etat.SetCaption("");
   Ajoute_Ligne_Log(programme_, Ligne_Repere(genre_.heures_repere));
-  fichier_ = programme_.plateforme.dialogs.Open(programme_.Chemin_Programme(), std::string(genre_.filtre));
-  programme_.Quitte_Si_Termine();
+  fichier_ = programme_.Choisit_Fichier(std::string(genre_.filtre));
   if (fichier_.empty()) programme_.Message("selectionnez un fichier ou quitter");
   return !fichier_.empty();
 }

@@ -11,8 +11,7 @@ namespace {
 
 Premier_Moment Premier_CTF(std::string_view texte) {
   const std::string_view ligne = Lecteur_Lignes(texte).Suivante();
-  return {Date_Complete(ligne, Siecle::Depuis_50),
-          std::string(Coupe(ligne, champs::Debut_A.colonne, champs::Debut_A.largeur))};
+  return {Date_Complete(ligne, Siecle::Depuis_50), std::string(Champ_Log(ligne, champs::Debut_A))};
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "core/text.h"
 #include "entry/ddfm.h"
-#include "maintenance/activity_file.h"
+#include "maintenance/activities.h"
 
 namespace vorelio {
 
@@ -15,9 +15,8 @@ Ajout_Activite::Ajout_Activite(Programme& programme) : Form(programme, "Ajout_Ac
 
 void Ajout_Activite::Form_Load() {
   Centre();
-  auto& nombre = programme_.contexte.Nb_Activite;
-  nombre = programme_.reglages.Nombre_Activites(2);
-  for (int n = 1; n < nombre; ++n) Activ_Exist.AddItem(programme_.reglages.Station(Cle_Activite(n), "Err4"));
+  programme_.contexte.Nb_Activite = programme_.reglages.Nombre_Activites(2);
+  for (const std::string& nom : Noms_Activites(programme_, "Err4")) Activ_Exist.AddItem(nom);
 }
 
 void Ajout_Activite::Nom_Activ_KeyPress(int& touche) { touche = Touche_Majuscule(touche); }

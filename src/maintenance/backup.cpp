@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "core/station_files.h"
 #include "core/text.h"
 
 namespace vorelio::Sous_Programmes {
@@ -24,9 +25,9 @@ std::string Relit_Chemin(Programme& programme) {
 /// Log and tallies, in the order of their copying.
 std::array<Paire, 4> Fichiers(const Programme& programme, const std::string& base) {
   return {{{programme.Chemin_Log(programme.contexte.Station_Indicatif), base + ".bak"},
-           {programme.Chemin_Station("_Departement.txt"), base + "_Departement.bak"},
-           {programme.Chemin_Station("_Locator.txt"), base + "_Locator.bak"},
-           {programme.Chemin_Station("_Prefixe.txt"), base + "_Prefixe.bak"}}};
+           {programme.Chemin_Station(kSuite_Departement), base + "_Departement.bak"},
+           {programme.Chemin_Station(kSuite_Locator), base + "_Locator.bak"},
+           {programme.Chemin_Station(kSuite_Prefixe), base + "_Prefixe.bak"}}};
 }
 
 }  // namespace
@@ -36,7 +37,7 @@ void Sauvegarde_Auto(Programme& programme) {
   const std::string base = Relit_Chemin(programme);
   for (const auto& [fichier, copie] : Fichiers(programme, base)) disque.Copy(fichier, copie);
   // The activities come back through a window of their own, into the settings.
-  disque.Copy(programme.Chemin_Station("_Activite.txt"), base + "_Activite.bak");
+  disque.Copy(programme.Chemin_Station(kSuite_Activite), base + "_Activite.bak");
   programme.Message("Sauvegarde automatique effectuée"_t);
 }
 

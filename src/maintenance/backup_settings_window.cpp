@@ -20,9 +20,7 @@ void Delta_QSO::Form_Load() {
 
 void Delta_QSO::New_Rep_Click() {
   auto& contexte = programme_.contexte;
-  const std::string chemin =
-      programme_.plateforme.dialogs.Save(programme_.Chemin_Programme(), contexte.Station_Indicatif, "");
-  programme_.Quitte_Si_Termine();
+  const std::string chemin = programme_.Choisit_Nom(contexte.Station_Indicatif, "");
   if (chemin.empty()) return programme_.Message("selectionnez un fichier ou quitter");
   contexte.Chemin_Sauvegarde = chemin;
   Le_Chemin.SetCaption(chemin);

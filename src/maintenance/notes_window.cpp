@@ -43,7 +43,7 @@ void Notes::Effacer_Click() {
 }
 
 void Notes::Charge() {
-  const std::string fichier = programme_.plateforme.dialogs.Open(programme_.Chemin_Programme(), kFiltre);
+  const std::string fichier = programme_.Choisit_Fichier(kFiltre);
   if (fichier.empty()) return;
   const std::string notes = Texte_De_Notes(programme_.Disque().ReadAll(fichier));
   std::string texte, ligne;
@@ -61,7 +61,7 @@ void Notes::Charge() {
 }
 
 void Notes::Enregistre() {
-  const std::string fichier = programme_.plateforme.dialogs.Save(programme_.Chemin_Programme(), "", kFiltre);
+  const std::string fichier = programme_.Choisit_Nom("", kFiltre);
   if (fichier.empty()) return;
   programme_.Disque().WriteAll(fichier, Text1.Text() + std::string(kFin_De_Ligne));
 }

@@ -4,7 +4,7 @@
 
 #include "core/errors.h"
 #include "core/text.h"
-#include "maintenance/activity_file.h"
+#include "maintenance/activities.h"
 
 namespace vorelio {
 

@@ -58,6 +58,10 @@ bool Control::RaiseKey(const KeyHandler& handler, int& key) const {
   return key != 0;
 }
 
+void EnableAll(std::initializer_list<Control*> controls, bool enabled) {
+  for (Control* control : controls) control->SetEnabled(enabled);
+}
+
 // --- TextField ------------------------------------------------------------------------------------------------------
 
 TextField::TextField(Form& form, std::string_view name, std::string_view text, bool multi_line)

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -110,6 +111,9 @@ class Control {
   Couleur colour_ = kFond_Fenetre;
   ControlView* view_ = nullptr;
 };
+
+/// Enables or disables all of them.
+void EnableAll(std::initializer_list<Control*> controls, bool enabled);
 
 /// A key that runs through a `KeyPress` handler before it acts: the handler may change it, or drop it with 0.
 using KeyHandler = std::function<void(int& key)>;

@@ -6,6 +6,7 @@
 #include "core/log_line.h"
 #include "core/text.h"
 #include "printing/listing.h"
+#include "qsl/state_words.h"
 
 namespace vorelio::Sous_Programmes {
 

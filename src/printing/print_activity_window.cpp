@@ -4,7 +4,7 @@
 
 #include "core/bands.h"
 #include "core/text.h"
-#include "maintenance/activity_list.h"
+#include "maintenance/activities.h"
 #include "printing/log_listing.h"
 
 namespace vorelio {

@@ -1,8 +1,7 @@
 #include "printing/select_qso_window.h"
 
 #include "core/loading_window.h"
-#include "core/log_line.h"
-#include "core/text.h"
+#include "core/log_file.h"
 #include "printing/labels_window.h"
 
 namespace vorelio {
@@ -27,13 +26,7 @@ void Select_QSO::Form_Load() {
   Centre();
   auto& chargement = programme_.Fenetre<Chargement>();
   chargement.Show();
-  Liste_QSO.ClearItems();
-  const std::string log = programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif));
-  int numero = 1;
-  for (Lecteur_Lignes lignes(log); !lignes.Fini(); ++numero) {
-    Liste_QSO.AddItem(Colonne_Numero(numero).append(lignes.Suivante()));
-    programme_.Traite_Evenements();
-  }
+  Sous_Programmes::Liste_Log(programme_, programme_.contexte.Station_Indicatif, Liste_QSO);
   chargement.Hide();
 }
 

@@ -14,8 +14,7 @@ namespace vorelio::Sous_Programmes {
 namespace {
 
 /// What sets a card that was sent apart from one that was received.
-struct Carte {
-  Champ indicatif;              ///< The columns of the callsign that are read.
+struct Genre_Carte {
   std::string_view etat_seule;  ///< State of a contact with this card alone.
   int etat_autre;               ///< State of a contact with the other card alone.
   std::string_view bande_50;    ///< What is taken for the 50 MHz band.
@@ -24,21 +23,21 @@ struct Carte {
   int reste;                    ///< Characters at the line's end that stay behind it.
 };
 
-constexpr Carte kEnvoyee{champs::Indicatif_A, "2", 3, "50 Mhz", 2, {137, 0, 0}, 55};
+constexpr Genre_Carte kEnvoyee{"2", 3, "50 Mhz", 2, {137, 0, 0}, 55};
 
 // "50Mhz" without its blank is no band: a card received on 50 MHz never reaches the squares. The tallies of earlier
 // versions were kept so, and a rebuild is the way to even them out.
-constexpr Carte kRecue{{11, 10, 0}, "3", 2, "50Mhz", 1, {137, 9, 0}, 46};
+constexpr Genre_Carte kRecue{"3", 2, "50Mhz", 1, {137, 9, 0}, 46};
 
 /// The squares' turn: one of the seven bands of the contact, or the form's own band on 24 GHz, whatever the contact's
 /// is. Logs of earlier versions were tallied by that band.
-bool Compte_Le_Carre(const Carte& carte, std::string_view bande, std::string_view bande_courante) {
+bool Compte_Le_Carre(const Genre_Carte& carte, std::string_view bande, std::string_view bande_courante) {
   if (bande_courante == kBandes.back()) return true;
   if (bande == carte.bande_50) return true;
   return Bande_VHF(bande) && bande != kBandes[kBandes_HF] && bande != kBandes.back();
 }
 
-void Maj_Carre(Programme& programme, const Carte& carte, std::string_view carre, std::string_view bande) {
+void Maj_Carre(Programme& programme, const Genre_Carte& carte, std::string_view carre, std::string_view bande) {
   std::string code, ligne;
   Cherche_Locator(programme, carre, code, bande, ligne);
   const double ancien = Valeur(code);
@@ -49,12 +48,10 @@ void Maj_Carre(Programme& programme, const Carte& carte, std::string_view carre,
   Affiche_Locators(programme, bande, carre, programme.contexte.Nb_Contactes);
 }
 
-void Maj_QSL(Programme& programme, const Carte& carte, Lignes_Remplacees& remplacees) {
+void Maj_QSL(Programme& programme, const Genre_Carte& carte, Lignes_Remplacees& remplacees) {
   auto& saisie = programme.saisie;
   const std::string ligne = saisie.Ligne_Selection;
-  std::string depart(Rogne(Coupe(ligne, champs::Depart_A.colonne + kColonnes_Numero, 2)));
-  if (depart == "2a") depart = "96";
-  if (depart == "2b") depart = "97";
+  const std::string depart = Forme_Pointage(std::string(Lit_Liste(ligne, champs::Depart_Court)));
   const std::string bande(Lit_Liste(ligne, champs::Bande_A));
   const std::string carre(Coupe(ligne, champs::Locator_A.colonne + kColonnes_Numero, 4));
   const std::string aujourd_hui =
@@ -70,7 +67,7 @@ void Maj_QSL(Programme& programme, const Carte& carte, Lignes_Remplacees& rempla
 
   std::string nouvelle(Coupe(ligne, 1 + kColonnes_Numero, champs::Etat_QSL.colonne - 1));
   nouvelle.append(etat).append(" ");
-  nouvelle.append(Coupe(ligne, carte.garde.colonne + kColonnes_Numero, carte.garde.largeur));
+  nouvelle.append(Champ_Liste(ligne, carte.garde));
   nouvelle.append(aujourd_hui).append(Fin(ligne, carte.reste));
   // A contact whose both cards are entered at once goes on from "sent".
   if (etat == "2") saisie.Etat_QSL_Courant = 2;
@@ -90,12 +87,12 @@ void Lignes_Remplacees::Applique(Programme& programme) {
   lignes_.clear();
   const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
   const std::string temporaire = programme.Chemin("Temporaire4.txt");
-  Ecrit_Temporaire(programme, log, temporaire, [&](std::string_view ligne) {
+  Ecrit_Temporaire(programme.Disque(), log, temporaire, [&](std::string_view ligne) {
     std::string lue(ligne);
     const auto place = a_faire.find(lue);
     return place == a_faire.end() ? lue : place->second;
   });
-  Prend_Temporaire(programme, log, temporaire);
+  Prend_Temporaire(programme.Disque(), log, temporaire);
 }
 
 void Maj_QSL_Envoyee(Programme& programme, Lignes_Remplacees& remplacees) { Maj_QSL(programme, kEnvoyee, remplacees); }

@@ -40,21 +40,17 @@ void QSL::Form_Load() {
 
 void QSL::Form_Unload() {
   Remet_Cases();
-  for (Control* controle :
-       {static_cast<Control*>(&Check_Envoye), static_cast<Control*>(&Check_Recu), static_cast<Control*>(&Enregistre)})
-    controle->SetEnabled(true);
+  EnableAll({&Check_Envoye, &Check_Recu, &Enregistre}, true);
 }
 
 void QSL::Montre_QSO(const std::string& ligne) {
   const int etat = programme_.saisie.Etat_QSL_Courant;
   Label4.SetCaption(Lit_Liste(ligne, champs::Date_A));
-  const std::string depart(Rogne(Coupe(ligne, champs::Depart_A.colonne + kColonnes_Numero, 2)));
+  const std::string depart(Lit_Liste(ligne, champs::Depart_Court));
   Label6.SetCaption(depart.empty() ? "" : "Dpt " + depart);
   Label7.SetCaption(Lit_Liste(ligne, champs::Indicatif_A));
   if (etat < 1 || etat > 4) return;
-  const auto date = [&ligne](const Champ& champ) {
-    return " le : " + std::string(Coupe(ligne, champ.colonne + kColonnes_Numero, champ.largeur));
-  };
+  const auto date = [&ligne](const Champ& champ) { return " le : " + std::string(Champ_Liste(ligne, champ)); };
   Label9.SetCaption(etat == 2 || etat == 4 ? date(champs::QSLE_A) : " : non");
   Label11.SetCaption(etat == 3 || etat == 4 ? date(champs::QSLR_A) : " : non");
 }

@@ -1,6 +1,7 @@
 #include "tallies/add_prefix_window.h"
 
 #include "core/bands.h"
+#include "core/station_files.h"
 #include "core/text.h"
 #include "tallies/prefix_tally.h"
 
@@ -32,7 +33,7 @@ void Ajout_Prefixe::Ajouter_Click() {
   if (N_Prefixe.Text().size() > kPrefixe_Au_Plus) return programme_.Message("6 caracteres maximum pour le prefixe");
   if (N_Pays.Text().empty()) return programme_.Message("Entrez un Pays");
 
-  const std::string fichier = programme_.Chemin_Station("_Prefixe.txt");
+  const std::string fichier = programme_.Chemin_Station(kSuite_Prefixe);
   const std::string jamais_contacte(kBandes.size(), '0');
   std::string ligne = Complete(N_Prefixe.Text(), Colonne_Prefixe(kBandes.front()) - 1) + jamais_contacte + "  ";
   ligne.append(N_Pays.Text()).append(kFin_De_Ligne);

@@ -44,7 +44,7 @@ void Maj_Nomenclature(Programme& programme, std::string_view indicatif, std::str
   Disk& disque = programme.Disque();
   const std::string fichier = programme.Chemin(kFichier);
   const std::string temporaire = programme.Chemin("Temporaire5.txt");
-  Ecrit_Temporaire(programme, fichier, temporaire, [&](std::string_view ligne) {
+  Ecrit_Temporaire(disque, fichier, temporaire, [&](std::string_view ligne) {
     return Lit_Nomenclature(ligne).indicatif == indicatif ? cumul += fiche : std::string(ligne);
   });
 

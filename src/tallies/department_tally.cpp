@@ -2,16 +2,15 @@
 
 #include "core/bands.h"
 #include "core/error_window.h"
+#include "core/station_files.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
-#include "tallies/tally_file.h"
 #include "views/department_map.h"
 
 namespace vorelio::Sous_Programmes {
 
 namespace {
 
-constexpr const char* kSuite = "_Departement.txt";
 constexpr int kPremiere_Bande = 4;
 constexpr int kLargeur_Cle = 2;
 constexpr int kColonne_Nom = 22;
@@ -27,6 +26,14 @@ void Compte_Couleur(Couleur couleur, Compte_Departements& compte) {
 
 }  // namespace
 
+std::string Forme_Pointage(const std::string& departement) {
+  return departement == "2a" ? "96" : departement == "2b" ? "97" : departement;
+}
+
+std::string Forme_Affichee(const std::string& departement) {
+  return departement == "96" ? "2a" : departement == "97" ? "2b" : departement;
+}
+
 int Cellule_Departement(std::string_view cle) {
   if (cle == "2a" || cle == "2A") return 96;
   if (cle == "2b" || cle == "2B") return 97;
@@ -40,7 +47,7 @@ int Colonne_Departement(std::string_view bande) {
 
 void Cherche_Departement(Programme& programme, std::string_view departement, std::string& code, std::string& nom,
                          std::string_view bande, std::string& ligne) {
-  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
+  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite_Departement));
   const int colonne = Colonne_Departement(bande);
   for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
     const std::string_view lue = lignes.Suivante();
@@ -54,18 +61,18 @@ void Cherche_Departement(Programme& programme, std::string_view departement, std
 
 void Maj_Departement(Programme& programme, std::string_view departement, std::string_view code,
                      std::string_view bande) {
-  const std::string fichier = programme.Chemin_Station(kSuite);
+  const std::string fichier = programme.Chemin_Station(kSuite_Departement);
   const std::string temporaire = programme.Chemin("Temporaire2.txt");
   const int colonne = Colonne_Departement(bande);
-  Ecrit_Temporaire(programme, fichier, temporaire, [&](std::string_view ligne) {
+  Ecrit_Temporaire(programme.Disque(), fichier, temporaire, [&](std::string_view ligne) {
     const bool touchee = colonne > 0 && Cle(ligne) == departement;
     return touchee ? Avec_Code(ligne, colonne, code, kPremiere_Bande) : std::string(ligne);
   });
-  Prend_Temporaire(programme, fichier, temporaire);
+  Prend_Temporaire(programme.Disque(), fichier, temporaire);
 }
 
 void Peint_Cellules(Programme& programme, std::string_view bande, const Cellules& cellules, int& total) {
-  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
+  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite_Departement));
   total = 0;
   Efface_Cellules(cellules, kFond_Fenetre);
 
@@ -91,7 +98,7 @@ Compte_Departements Compte_Cellules(const Cellules& cellules) {
 
 Compte_Departements Affiche_Departements(Programme& programme, std::string_view bande, int& total) {
   const Cellules& grille = programme.Fenetre<DDFM>().Dpt;
-  Piege_Fichier_Station(programme, kSuite, [&] { Peint_Cellules(programme, bande, grille, total); });
+  Piege_Fichier_Station(programme, kSuite_Departement, [&] { Peint_Cellules(programme, bande, grille, total); });
   // What the cells show in the end counts, not the lines: two lines of one cell are one department here. Where the map
   // of the departments is open its cells count, though they may be of another band.
   const auto* carte = programme.Ouverte<Carte>();

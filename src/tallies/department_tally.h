@@ -12,6 +12,11 @@
 /// "2" QSL sent, "3" received, "4" both.
 namespace vorelio::Sous_Programmes {
 
+/// Corsica: the operator and the log see "2a" and "2b", the tallies and the directory "96" and "97". All other
+/// departments are the same in both forms.
+std::string Forme_Pointage(const std::string& departement);
+std::string Forme_Affichee(const std::string& departement);
+
 /// Column of the code of `bande`, 4 to 20; 0 for a band that isn't in the band table.
 int Colonne_Departement(std::string_view bande);
 

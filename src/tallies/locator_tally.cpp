@@ -2,6 +2,7 @@
 
 #include "core/bands.h"
 #include "core/error_window.h"
+#include "core/station_files.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "tallies/tally_file.h"
@@ -11,7 +12,6 @@ namespace vorelio::Sous_Programmes {
 
 namespace {
 
-constexpr const char* kSuite = "_Locator.txt";
 constexpr int kPremiere_Bande = 6;
 constexpr int kLargeur_Champ = 2;
 constexpr int kLargeur_Cle = 4;
@@ -26,8 +26,8 @@ int Colonne_Locator(std::string_view bande) {
 
 void Cherche_Locator(Programme& programme, std::string_view locator, std::string& code, std::string_view bande,
                      std::string& ligne) {
-  Piege_Fichier_Station(programme, kSuite, [&] {
-    const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
+  Piege_Fichier_Station(programme, kSuite_Locator, [&] {
+    const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite_Locator));
     const int colonne = Colonne_Locator(bande);
     for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
       const std::string_view lue = lignes.Suivante();
@@ -40,18 +40,18 @@ void Cherche_Locator(Programme& programme, std::string_view locator, std::string
 }
 
 void Maj_Locator(Programme& programme, std::string_view carre, std::string_view code, std::string_view bande) {
-  const std::string fichier = programme.Chemin_Station(kSuite);
+  const std::string fichier = programme.Chemin_Station(kSuite_Locator);
   const std::string temporaire = programme.Chemin("Temporaire3.txt");
   const int colonne = Colonne_Locator(bande);
-  Ecrit_Temporaire(programme, fichier, temporaire, [&](std::string_view ligne) {
+  Ecrit_Temporaire(programme.Disque(), fichier, temporaire, [&](std::string_view ligne) {
     const bool touchee = colonne > 0 && Cle(ligne) == carre;
     return touchee ? Avec_Code(ligne, colonne, code, kPremiere_Bande) : std::string(ligne);
   });
-  Prend_Temporaire(programme, fichier, temporaire);
+  Prend_Temporaire(programme.Disque(), fichier, temporaire);
 }
 
 void Affiche_Locators(Programme& programme, std::string_view bande, std::string_view champ, int& total) {
-  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
+  const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite_Locator));
   const Cellules& grille = programme.Fenetre<DDFM>().Dpt;
   Carte_Champ* carte = Carte_Du_Champ(programme, champ);
   total = 0;

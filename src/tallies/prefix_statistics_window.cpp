@@ -1,6 +1,7 @@
 #include "tallies/prefix_statistics_window.h"
 
 #include "core/bands.h"
+#include "core/station_files.h"
 #include "core/text.h"
 #include "tallies/prefix_tally.h"
 #include "tallies/tally_file.h"
@@ -30,7 +31,7 @@ void Statistique_Prefixe::Form_Load() {
 
 void Statistique_Prefixe::Bande_E_Click() {
   Liste_Prefixes.ClearItems();
-  const std::string texte = programme_.Disque().ReadAll(programme_.Chemin_Station("_Prefixe.txt"));
+  const std::string texte = programme_.Disque().ReadAll(programme_.Chemin_Station(kSuite_Prefixe));
   const int colonne = Colonne_Prefixe(Bande_E.Text());
   for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
     const std::string_view ligne = lignes.Suivante();

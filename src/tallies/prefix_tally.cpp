@@ -5,6 +5,7 @@
 
 #include "core/bands.h"
 #include "core/error_window.h"
+#include "core/station_files.h"
 #include "core/text.h"
 #include "tallies/tally_file.h"
 
@@ -12,7 +13,6 @@ namespace vorelio::Sous_Programmes {
 
 namespace {
 
-constexpr const char* kSuite = "_Prefixe.txt";
 constexpr int kPremiere_Bande = 8;
 constexpr int kLargeur_Comparee = 5;
 constexpr int kColonne_Pays = 27;
@@ -46,8 +46,8 @@ std::string_view Pays_De(std::string_view ligne) { return Coupe(ligne, kColonne_
 
 void Cherche_Prefixe(Programme& programme, std::string_view indicatif, std::string_view bande, std::string& code,
                      std::string& pays, std::string& prefixe) {
-  Piege_Fichier_Station(programme, kSuite, [&] {
-    const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite));
+  Piege_Fichier_Station(programme, kSuite_Prefixe, [&] {
+    const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite_Prefixe));
     for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
       const std::string_view ligne = lignes.Suivante();
       if (!Correspond(ligne, indicatif)) continue;
@@ -66,12 +66,12 @@ void Cherche_Prefixe(Programme& programme, std::string_view indicatif, std::stri
 
 void Maj_Prefixe(Programme& programme, std::string_view indicatif, std::string_view bande, std::string& code,
                  std::string& pays, std::string& prefixe) {
-  Piege_Fichier_Station(programme, kSuite, [&] {
-    const std::string fichier = programme.Chemin_Station(kSuite);
+  Piege_Fichier_Station(programme, kSuite_Prefixe, [&] {
+    const std::string fichier = programme.Chemin_Station(kSuite_Prefixe);
     const std::string temporaire = programme.Chemin("Temporaire1.txt");
     const int colonne = Colonne_Prefixe(bande);
     bool trouve = false;
-    Ecrit_Temporaire(programme, fichier, temporaire, [&](std::string_view ligne) {
+    Ecrit_Temporaire(programme.Disque(), fichier, temporaire, [&](std::string_view ligne) {
       if (trouve || !Correspond(ligne, indicatif)) return std::string(ligne);
       trouve = true;
       Prend_Ligne(ligne, colonne, {code, pays, prefixe});
@@ -83,7 +83,7 @@ void Maj_Prefixe(Programme& programme, std::string_view indicatif, std::string_v
           "Prefixe Inconnu, annulez la saisie du QSO\r\n"
           "Dans Fichier puis Ajout Prefixe, renseignez les 2 fenetres\r\n"
           "Saisissez a nouveau le QSO");
-    Prend_Temporaire(programme, fichier, temporaire);
+    Prend_Temporaire(programme.Disque(), fichier, temporaire);
   });
 }
 
@@ -91,6 +91,10 @@ bool Prefixe_Francais(std::string_view prefixe) {
   static constexpr std::array<std::string_view, 11> kFrance = {"F",  "TH", "TK", "TM", "TP", "TQ",
                                                                "TV", "TW", "HW", "HX", "HY"};
   return std::find(kFrance.begin(), kFrance.end(), prefixe) != kFrance.end();
+}
+
+bool Indicatif_Francais(std::string_view indicatif) {
+  return Prefixe_Francais(Coupe(indicatif, 1, 1)) || Prefixe_Francais(Coupe(indicatif, 1, 2));
 }
 
 }  // namespace vorelio::Sous_Programmes

@@ -31,4 +31,7 @@ void Maj_Prefixe(Programme& programme, std::string_view indicatif, std::string_v
 /// One of the eleven prefixes that count as France, compared whole.
 bool Prefixe_Francais(std::string_view prefixe);
 
+/// Whether a callsign begins with one of them: by its first letter, or by its first two.
+bool Indicatif_Francais(std::string_view indicatif);
+
 }  // namespace vorelio::Sous_Programmes

@@ -7,7 +7,9 @@
 
 #include "core/bands.h"
 #include "core/errors.h"
+#include "core/log_file.h"
 #include "core/log_line.h"
+#include "core/station_files.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "tallies/department_tally.h"
@@ -58,9 +60,7 @@ class Pointage_Tenu {
  private:
   void Ecrit(Disk& disk) const {
     disk.WriteAll(temporaire_, table_.Texte());
-    disk.Delete(chemin_);
-    disk.Copy(temporaire_, chemin_);
-    disk.Delete(temporaire_);
+    Prend_Temporaire(disk, chemin_, temporaire_);
   }
 
   std::string chemin_;
@@ -73,9 +73,8 @@ class Pointage_Tenu {
 
 /// Puts the template in the tally's place: all work so far is gone from here on. Gives the log's text.
 std::string Commence(Programme& programme, std::string_view suite) {
-  programme.Disque().Copy(programme.Chemin(std::string(kStation_Modele).append(suite)),
-                          programme.Chemin_Station(suite));
-  return programme.Disque().ReadAll(programme.Chemin_Log(programme.contexte.Station_Indicatif));
+  programme.Disque().Copy(programme.Chemin_Modele(suite), programme.Chemin_Station(suite));
+  return Texte_Log(programme);
 }
 
 /// Runs the log through the tally, line by line, telling how far it has come.
@@ -180,13 +179,12 @@ bool Compte_Le_Carre(int bande, const Contexte_Station& contexte) {
 
 void Refait_Prefixes(Programme& programme) {
   programme.Message(Boite("Prefixe"));
-  programme.Disque().Copy(programme.Chemin(std::string(kStation_Modele) + ".log"),
-                          programme.Chemin_Station("_Absent.txt"));
+  programme.Disque().Copy(programme.Chemin_Modele(".log"), programme.Chemin_Station(kSuite_Absent));
   // Named after the callsign typed last, not after the station: what was just emptied isn't what gets written, and
   // users have looked for the list under that name.
-  const std::string log = Commence(programme, "_Prefixe.txt");
-  Liste_Absents absents(programme, programme.Chemin(programme.saisie.Indicatif_Saisi + "_Absent.txt"));
-  Parcourt(programme, log, "_Prefixe.txt", Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
+  const std::string log = Commence(programme, kSuite_Prefixe);
+  Liste_Absents absents(programme, programme.Chemin(programme.saisie.Indicatif_Saisi + kSuite_Absent));
+  Parcourt(programme, log, kSuite_Prefixe, Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
     Reconstruit_Prefixe(pointage, absents, Lit_Log(ligne, champs::Indicatif_A),
                         Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
   });
@@ -196,9 +194,9 @@ void Refait_Prefixes(Programme& programme) {
 
 void Refait_Departements(Programme& programme) {
   programme.Message(Boite("Departement"));
-  const std::string log = Commence(programme, "_Departement.txt");
-  Parcourt(programme, log, "_Departement.txt", Cle_Departement, [](Pointage_Tenu& pointage, std::string_view ligne) {
-    Reconstruit_Departement(pointage, Majuscules(Rogne(Coupe(ligne, champs::Depart_A.colonne, 2))),
+  const std::string log = Commence(programme, kSuite_Departement);
+  Parcourt(programme, log, kSuite_Departement, Cle_Departement, [](Pointage_Tenu& pointage, std::string_view ligne) {
+    Reconstruit_Departement(pointage, Majuscules(Lit_Log(ligne, champs::Depart_Court)),
                             Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
   });
   auto& contexte = programme.contexte;
@@ -210,9 +208,9 @@ void Refait_Departements(Programme& programme) {
 void Refait_Locators(Programme& programme) {
   auto& contexte = programme.contexte;
   programme.Message(Boite("Locator"));
-  const std::string log = Commence(programme, "_Locator.txt");
+  const std::string log = Commence(programme, kSuite_Locator);
   try {
-    Parcourt(programme, log, "_Locator.txt", Cle_Locator, [&](Pointage_Tenu& pointage, std::string_view ligne) {
+    Parcourt(programme, log, kSuite_Locator, Cle_Locator, [&](Pointage_Tenu& pointage, std::string_view ligne) {
       const std::string_view carre = Rogne(Coupe(ligne, champs::Locator_A.colonne, 4));
       const int bande = Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A));
       if (!carre.empty() && Compte_Le_Carre(bande, contexte))

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "core/text.h"
-#include "entry/ddfm.h"
 
 namespace vorelio::Sous_Programmes {
 
@@ -31,20 +30,20 @@ void Efface_Cellules(const Cellules& cellules, Couleur fond) {
   for (const auto& cellule : cellules) cellule->SetColour(fond);
 }
 
-void Ecrit_Temporaire(Programme& programme, const std::string& chemin, const std::string& temporaire,
+void Ecrit_Temporaire(Disk& disque, const std::string& chemin, const std::string& temporaire,
                       const Change_Ligne& change) {
-  const std::string texte = programme.Disque().ReadAll(chemin);
+  const std::string texte = disque.ReadAll(chemin);
   std::string neuf;
   // A little more than it was, for lines that had LF alone.
   neuf.reserve(texte.size() + texte.size() / 16);
   for (Lecteur_Lignes lignes(texte); !lignes.Fini();) neuf.append(change(lignes.Suivante())).append(kFin_De_Ligne);
-  programme.Disque().WriteAll(temporaire, neuf);
+  disque.WriteAll(temporaire, neuf);
 }
 
-void Prend_Temporaire(Programme& programme, const std::string& chemin, const std::string& temporaire) {
-  programme.Disque().Delete(chemin);
-  programme.Disque().Copy(temporaire, chemin);
-  programme.Disque().Delete(temporaire);
+void Prend_Temporaire(Disk& disque, const std::string& chemin, const std::string& temporaire) {
+  disque.Delete(chemin);
+  disque.Copy(temporaire, chemin);
+  disque.Delete(temporaire);
 }
 
 }  // namespace vorelio::Sous_Programmes

@@ -4,8 +4,18 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
 #include "platform/controls.h"
+#include "platform/disk.h"
+
+namespace vorelio {
+
+/// Cells by tally code, "1" to "4".
+inline constexpr Couleur kDpt_Contacte = 0xC0C0FF;
+inline constexpr Couleur kDpt_QSL_Envoyee = 0x00FFFF;
+inline constexpr Couleur kDpt_QSL_Recue = 0xFFFF80;
+inline constexpr Couleur kDpt_Confirme = 0x80FF80;
+
+}  // namespace vorelio
 
 /// What the tallies have in common: lines with one code character per band, rewritten through a temporary file.
 namespace vorelio::Sous_Programmes {
@@ -29,10 +39,10 @@ void Efface_Cellules(const Cellules& cellules, Couleur fond);
 using Change_Ligne = std::function<std::string(std::string_view ligne)>;
 
 /// Reads the file at `chemin` and writes what its lines become, each ended by CR LF, to the file at `temporaire`.
-void Ecrit_Temporaire(Programme& programme, const std::string& chemin, const std::string& temporaire,
+void Ecrit_Temporaire(Disk& disque, const std::string& chemin, const std::string& temporaire,
                       const Change_Ligne& change);
 
 /// Puts the temporary file in place of the one at `chemin`: deletes that one, copies, deletes the temporary file.
-void Prend_Temporaire(Programme& programme, const std::string& chemin, const std::string& temporaire);
+void Prend_Temporaire(Disk& disque, const std::string& chemin, const std::string& temporaire);
 
 }  // namespace vorelio::Sous_Programmes

@@ -4,8 +4,9 @@
 
 #include "core/bands.h"
 #include "core/clock_text.h"
+#include "core/log_file.h"
 #include "core/text.h"
-#include "maintenance/activity_list.h"
+#include "maintenance/activities.h"
 #include "views/statistics.h"
 
 namespace vorelio {
@@ -32,7 +33,7 @@ void Statistique_DFCF::Affiche_Contact_Click() {
   BandActiv.SetCaption(Rogne(Bande_E.Text()));
   TypActiv.SetCaption(Rogne(Activite_A.Text()));
   Liste_Chateaux.ClearItems();
-  const std::string log = programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif));
+  const std::string log = Texte_Log(programme_);
   const std::string indice = std::to_string(Activite_A.ListIndex() + 1);
   for (const std::string& ligne : Lignes_Activation(log, indice, Bande_E.Text())) Liste_Chateaux.AddItem(ligne);
   TotActiv.SetCaption(Texte_Nombre_Blanc(Liste_Chateaux.Count()));

@@ -5,9 +5,10 @@
 #include <string>
 
 #include "core/bands.h"
+#include "core/log_file.h"
 #include "core/log_line.h"
 #include "entry/ddfm.h"
-#include "maintenance/activity_list.h"
+#include "maintenance/activities.h"
 #include "views/map_cells.h"
 
 namespace vorelio {
@@ -71,7 +72,7 @@ namespace Sous_Programmes {
 Compte_Departements Dessine_Carte_Activite(Programme& programme, std::string_view bande, std::string_view activite,
                                            int& total) {
   auto& carte = programme.Fenetre<Carte_Acti>();
-  const std::string journal = programme.Disque().ReadAll(programme.Chemin_Log(programme.contexte.Station_Indicatif));
+  const std::string journal = Texte_Log(programme);
   carte.Bande_Carte.SetCaption(bande);
   total = 0;
   Efface_Cellules(carte.Dep, kFond_Fenetre);
@@ -80,11 +81,9 @@ Compte_Departements Dessine_Carte_Activite(Programme& programme, std::string_vie
     if (Lit_Log(ligne, champs::Activ_A) != activite) continue;
     if (bande != kToutes_Bandes && Lit_Log(ligne, champs::Bande_A) != bande) continue;
     ++total;
-    // Two characters of the field, whose third one no department uses.
-    const std::string_view departement = Coupe(ligne, champs::Depart_A.colonne, 2);
+    const std::string_view departement = Champ_Log(ligne, champs::Depart_Court);
     if (departement == "  ") continue;
-    Monte_Couleur(carte.Dep(Cellule_Departement(departement)),
-                  Coupe(ligne, champs::Etat_QSL.colonne, champs::Etat_QSL.largeur));
+    Monte_Couleur(carte.Dep(Cellule_Departement(departement)), Champ_Log(ligne, champs::Etat_QSL));
   }
   return Compte_Cellules(carte.Dep);
 }

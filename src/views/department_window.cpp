@@ -3,6 +3,7 @@
 #include "core/log_line.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "tallies/department_tally.h"
 #include "views/found_line.h"
 
 namespace vorelio {
@@ -25,9 +26,9 @@ void Affiche_Dpt::Montre_Departement(int cellule) {
   std::string departement = Deux_Chiffres(cellule);
   const auto& log = programme_.Fenetre<DDFM>().Liste_QSO.Items();
   // The grid numbers Corsica, the log writes its letters. An empty log leaves the number.
-  if (!log.empty()) departement = Forme_Affichee(departement);
+  if (!log.empty()) departement = Sous_Programmes::Forme_Affichee(departement);
   for (const std::string& element : log)
-    if (Coupe(element, champs::Depart_A.colonne + kColonnes_Numero, 2) == departement) QSO_DU_Dep.AddItem(element);
+    if (Champ_Liste(element, champs::Depart_Court) == departement) QSO_DU_Dep.AddItem(element);
   Label2.SetCaption(departement);
 }
 

@@ -3,6 +3,7 @@
 #include <numeric>
 #include <string>
 
+#include "core/log_file.h"
 #include "views/statistics.h"
 
 namespace vorelio {
@@ -16,7 +17,7 @@ Statistiques::Statistiques(Programme& programme)
 
 void Statistiques::Form_Load() {
   Centre();
-  const std::string log = programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif));
+  const std::string log = Sous_Programmes::Texte_Log(programme_);
   const Comptes_Distance comptes = Compte_Distances(log);
   // The table has always read its bands through the band of the entry form.
   if (comptes.derniere_bande) programme_.contexte.Bande_Courante = *comptes.derniere_bande;

@@ -1,6 +1,7 @@
 #include "views/map_cells.h"
 
 #include "core/text.h"
+#include "tallies/department_tally.h"
 
 namespace vorelio {
 
@@ -9,10 +10,7 @@ using Sous_Programmes::Cellules;
 namespace {
 
 std::string Texte_Departement(int numero) {
-  if (!Case_De_Departement(numero)) return "X";
-  if (numero == 96) return "2a";
-  if (numero == 97) return "2b";
-  return Deux_Chiffres(numero);
+  return Case_De_Departement(numero) ? Sous_Programmes::Forme_Affichee(Deux_Chiffres(numero)) : "X";
 }
 
 }  // namespace

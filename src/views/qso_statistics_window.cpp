@@ -2,8 +2,9 @@
 
 #include <string>
 
+#include "core/log_file.h"
 #include "core/text.h"
-#include "maintenance/activity_list.h"
+#include "maintenance/activities.h"
 #include "views/statistics.h"
 
 namespace vorelio {
@@ -14,8 +15,7 @@ void Statistique_QSO::Form_Load() {
   Centre();
   Label19.SetCaption("  Activités         Nb QSO         QSL Ev              QSL Re"_t);
   const auto noms = Sous_Programmes::Noms_Activites(programme_, "Err4");
-  Comptes_QSO comptes =
-      Compte_QSO(programme_.Disque().ReadAll(programme_.Chemin_Log(programme_.contexte.Station_Indicatif)));
+  Comptes_QSO comptes = Compte_QSO(Sous_Programmes::Texte_Log(programme_));
   NbQSO.SetCaption(Texte_Nombre_Blanc(comptes.total));
   NbFR.SetCaption(Texte_Nombre_Blanc(comptes.francais));
   NbET.SetCaption(Texte_Nombre_Blanc(comptes.total - comptes.francais));

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "printing/listing.h"
+#include "qsl/state_words.h"
 #include "views/found_line.h"
 #include "views/search.h"
 

@@ -6,7 +6,7 @@
 #include "core/bands.h"
 #include "core/errors.h"
 #include "core/log_line.h"
-#include "printing/listing.h"
+#include "qsl/state_words.h"
 #include "tallies/prefix_tally.h"
 
 namespace vorelio {
@@ -33,7 +33,7 @@ Comptes_Distance Compte_Distances(std::string_view log) {
     bande = Lit_Log(ligne, champs::Bande_A);
     const auto place = std::find(kBandes_Distance.begin(), kBandes_Distance.end(), bande);
     if (place == kBandes_Distance.end()) continue;
-    classe = Classe_Distance(Valeur(Coupe(ligne, champs::Distance_A.colonne, champs::Distance_A.largeur)), classe);
+    classe = Classe_Distance(Valeur(Champ_Log(ligne, champs::Distance_A)), classe);
     if (classe == 0) continue;
     auto& colonne = comptes.cellules[static_cast<std::size_t>(place - kBandes_Distance.begin())];
     ++colonne[static_cast<std::size_t>(classe - 1)];
@@ -59,9 +59,7 @@ Comptes_QSO Compte_QSO(std::string_view log) {
     ++activite.qso;
     activite.envoyees += etat == "2" || etat == "4";
     activite.recues += etat == "3" || etat == "4";
-    const std::string_view indicatif = Coupe(ligne, champs::Indicatif_A.colonne, champs::Indicatif_A.largeur);
-    comptes.francais += Sous_Programmes::Prefixe_Francais(Coupe(indicatif, 1, 1)) ||
-                        Sous_Programmes::Prefixe_Francais(Coupe(indicatif, 1, 2));
+    comptes.francais += Sous_Programmes::Indicatif_Francais(Champ_Log(ligne, champs::Indicatif_A));
   }
   return comptes;
 }

@@ -99,10 +99,5 @@ TEST(ClusterPage, Paths) {
   EXPECT_EQ(Adresse_Complete(" / "), "");
 }
 
-TEST(ClusterPage, FrenchCalls) {
-  for (const char* call : {"F9AAA", "F", "TM9X", "TK5", "HW1", "HY"}) EXPECT_TRUE(Station_Francaise(call)) << call;
-  for (const char* call : {"HB9AA", "TA1", "TN8", "", "T", "3A2"}) EXPECT_FALSE(Station_Francaise(call)) << call;
-}
-
 }  // namespace
 }  // namespace vorelio::tests

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "entry/ddfm.h"
-#include "maintenance/activity_file.h"
+#include "maintenance/activities.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "support/station_fixture.h"

@@ -109,10 +109,12 @@ TEST_F(PrefixTallyTest, UpdateMarksTheFirstMatchOnly) {
   EXPECT_EQ(messages.TakeMessages(), Lines{});
 }
 
-TEST_F(PrefixTallyTest, FrenchPrefixesAreComparedWhole) {
+TEST_F(PrefixTallyTest, FrenchPrefixesAndCallsigns) {
   for (const char* yes : {"F", "TH", "TK", "TM", "TP", "TQ", "TV", "TW", "HW", "HX", "HY"})
     EXPECT_TRUE(Prefixe_Francais(yes)) << yes;
   for (const char* no : {"", "FK", "T", "f", "TM ", "DL"}) EXPECT_FALSE(Prefixe_Francais(no)) << no;
+  for (const char* call : {"F9AAA", "F", "TM9X", "TK5", "HW1", "HY"}) EXPECT_TRUE(Indicatif_Francais(call)) << call;
+  for (const char* call : {"HB9AA", "TA1", "TN8", "", "T", "3A2"}) EXPECT_FALSE(Indicatif_Francais(call)) << call;
 }
 
 TEST_F(PrefixTallyTest, AddedPrefixGoesToTheEnd) {

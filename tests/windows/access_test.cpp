@@ -12,6 +12,7 @@
 
 #include "platform/qt/qt_text.h"
 #include "platform/qt/window_extras.h"
+#include "tallies/tally_file.h"
 #include "windows/every_form.h"
 
 namespace vorelio::tests {

@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QGridLayout>
 #include <QLabel>
-#include <QMainWindow>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>

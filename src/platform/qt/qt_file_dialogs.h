@@ -9,7 +9,6 @@ class QFileDialog;
 
 namespace vorelio {
 
-class MessageService;
 class QtWindows;
 
 /// The file dialogs on Qt. A file whose path the program's character set can't hold is refused with a message.

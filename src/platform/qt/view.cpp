@@ -6,7 +6,7 @@
 #include <QScopedValueRollback>
 
 #include "core/programme.h"
-#include "entry/ddfm.h"
+#include "tallies/tally_file.h"
 
 namespace vorelio {
 

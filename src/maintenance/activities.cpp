@@ -1,12 +1,18 @@
-#include "maintenance/activity_file.h"
+#include "maintenance/activities.h"
 
-#include <string>
-
+#include "core/station_files.h"
 #include "core/text.h"
 
 namespace vorelio::Sous_Programmes {
 
 std::string Cle_Activite(int numero) { return "Activite" + std::to_string(numero); }
+
+std::vector<std::string> Noms_Activites(Programme& programme, const std::string& defaut) {
+  const int nombre = programme.reglages.Nombre_Activites(2);
+  std::vector<std::string> noms;
+  for (int n = 1; n < nombre; ++n) noms.push_back(programme.reglages.Station(Cle_Activite(n), defaut));
+  return noms;
+}
 
 void Ecrit_Fichier_Activites(Programme& programme) {
   auto& nombre = programme.contexte.Nb_Activite;
@@ -14,7 +20,7 @@ void Ecrit_Fichier_Activites(Programme& programme) {
   std::string texte;
   for (int n = 0; n < nombre; ++n)
     texte.append(programme.reglages.Station(Cle_Activite(n), "XXX")).append(kFin_De_Ligne);
-  programme.Disque().WriteAll(programme.Chemin_Station("_Activite.txt"), texte);
+  programme.Disque().WriteAll(programme.Chemin_Station(kSuite_Activite), texte);
 }
 
 }  // namespace vorelio::Sous_Programmes
