@@ -54,9 +54,9 @@ void Type(Run& run, Args& args) {
 }
 
 void Enter(Run& run, Args& args) {
-  const std::string name = args.Word("control");
+  do TypeKeys(run, args.Word("control"), "\r");
+  while (args.More());
   args.End();
-  TypeKeys(run, name, "\r");
 }
 
 void Paste(Run& run, Args& args) {
