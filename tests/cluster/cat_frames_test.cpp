@@ -2,19 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "core/errors.h"
+#include "support/error_of.h"
 
 namespace vorelio::tests {
 namespace {
-
-int Error(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const Erreur_Execution& error) {
-    return error.Numero();
-  }
-  return 0;
-}
 
 TEST(CatFrames, FrequencyFromALine) {
   const Spot spot{"F9AAA       ", " 14195.0", "12-MAY 1234Z ", "ON9ZZ      ", ""};
@@ -29,7 +20,7 @@ TEST(CatFrames, Yaesu) {
   EXPECT_EQ(Qrg_Bcd(704050), (Parametres_CAT{0x00, 0x70, 0x40, 0x50}));
   EXPECT_EQ(Qrg_Bcd(14430000), (Parametres_CAT{0x14, 0x43, 0x00, 0x00}));
   EXPECT_EQ(Qrg_Bcd(999999999), (Parametres_CAT{0x99, 0x99, 0x99, 0x99}));
-  EXPECT_EQ(Error([] { Qrg_Bcd(-1419500); }), 13);
+  EXPECT_EQ(ErrorOf([] { Qrg_Bcd(-1419500); }), 13);
 }
 
 TEST(CatFrames, Ft1000) {
@@ -48,7 +39,7 @@ TEST(CatFrames, Ft1000) {
     EXPECT_EQ(Chiffres_Du_Nombre(text), digits);
   }
   std::string words = "F9AAA  0";
-  EXPECT_EQ(Error([&] { Qrg_Bcd_Inverse(words); }), 13);
+  EXPECT_EQ(ErrorOf([&] { Qrg_Bcd_Inverse(words); }), 13);
 }
 
 TEST(CatFrames, Icom) {

@@ -41,8 +41,8 @@ TEST_F(ClusterWindowTest, EachStepOfTheFilesIsOneAccess) {
   auto& form = Open();
   disk.Forget();
   Event([&] { form.Afficher.UserClick(); });
-  EXPECT_EQ(disk.Log(), (std::vector<std::string>{"write Cluster1.txt", "read Cluster1.txt", "write Temp1.txt",
-                                                  "copy Temp1.txt Cluster1.txt", "read Cluster1.txt"}));
+  EXPECT_EQ(disk.Log(), (Lines{"write Cluster1.txt", "read Cluster1.txt", "write Temp1.txt",
+                               "copy Temp1.txt Cluster1.txt", "read Cluster1.txt"}));
   EXPECT_EQ(Read("Temp1.txt"),
             Fins_De_Ligne(Majuscules(MadeUpPage({{}, {.dx = "VK9ZZ", .qrg = "7040.5", .date = "12-May 1235Z "}}))));
   EXPECT_EQ(form.Liste_Stations.ListIndex(), 1);
@@ -56,14 +56,14 @@ TEST_F(ClusterWindowTest, AFileLeftOpenFailsEveryLoadThatFollows) {
   load();
   disk.Mend();
   load();
-  EXPECT_EQ(messages.TakeMessages(), std::vector<std::string>{kNoAnswer});  // It had never been open.
+  EXPECT_EQ(messages.TakeMessages(), Lines{kNoAnswer});  // It had never been open.
   disk.FailOn("write Temp1.txt", Erreur::Disque_Plein);
   load();
   disk.Mend();
   disk.Forget();
   load();
-  EXPECT_EQ(disk.Log(), (std::vector<std::string>{"write Cluster1.txt", "read Cluster1.txt"}));
-  EXPECT_EQ(messages.TakeMessages(), (std::vector<std::string>{kNoAnswer, kNoAnswer}));
+  EXPECT_EQ(disk.Log(), (Lines{"write Cluster1.txt", "read Cluster1.txt"}));
+  EXPECT_EQ(messages.TakeMessages(), (Lines{kNoAnswer, kNoAnswer}));
   EXPECT_FALSE(form.Afficher.Enabled());
   EXPECT_TRUE(form.Patientez.Enabled());
   EXPECT_FALSE(form.Timer2.Enabled());

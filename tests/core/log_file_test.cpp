@@ -4,6 +4,7 @@
 #include "core/errors.h"
 #include "core/log_line.h"
 #include "entry/ddfm.h"
+#include "support/contact.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -12,11 +13,7 @@ namespace {
 using namespace Sous_Programmes;
 
 std::string Ligne(const std::string& date, const std::string& heure, const std::string& indicatif) {
-  Champs_QSO qso;
-  qso.Date_A = date;
-  qso.Debut_A = heure;
-  qso.Indicatif_A = indicatif;
-  return Construit_Ligne(qso);
+  return Construit_Ligne(Contact({date, indicatif, heure}));
 }
 
 class LogFile : public StationFixture {
@@ -66,7 +63,7 @@ TEST_F(LogFile, InsertsAtTheDateWithItsCentury) {
       bytes.append(Partie_Log(row)).append("\r\n");
     }
     EXPECT_EQ(Read("F9QZX.log"), bytes);
-    EXPECT_EQ(disk.Changes(), std::vector<std::string>{"write F9QZX.log"});
+    EXPECT_EQ(disk.Changes(), Lines{"write F9QZX.log"});
   }
 }
 
@@ -166,19 +163,8 @@ TEST(Calendar, TakesRealDatesAlone) {
 }
 
 TEST(LogLine, StandsInItsColumns) {
-  Champs_QSO qso;
-  qso.Date_A = "12/05/03";
-  qso.Indicatif_A = "F9QZX/PORTAB";
-  qso.Debut_A = "10:00";
-  qso.Fin_A = "10:05";
-  qso.Depart_A = "2a";
-  qso.Locator_A = "JN33BB";
-  qso.Bande_A = "144 Mhz";
-  qso.Mode_A = "PACKET7";
-  qso.RSTE_A = "59";
-  qso.RSTR_A = "58";
-  qso.QTH_A = "DFCF 06001";
-  qso.Prenom_A = "Zo\xE9";
+  Champs_QSO qso = Contact({"12/05/03", "F9QZX/PORTAB", "10:00", "10:05", "2a", "JN33BB", "144 Mhz", "PACKET7", "59",
+                            "58", "DFCF 06001", "Zo\xE9"});
   qso.Distance_A = "12345";
   qso.Azimut_A = "360";
   qso.Activ_A = "12";

@@ -12,7 +12,6 @@ namespace vorelio::tests {
 namespace {
 
 using namespace Sous_Programmes;
-using Lines = std::vector<std::string>;
 
 class StationFormTest : public StationFixture {
  protected:

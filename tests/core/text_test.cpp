@@ -2,20 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "core/errors.h"
+#include "support/error_of.h"
 
 namespace vorelio {
 namespace {
 
-template <typename Action>
-int ErrorOf(Action action) {
-  try {
-    action();
-  } catch (const Erreur_Execution& erreur) {
-    return erreur.Numero();
-  }
-  return 0;
-}
+using tests::ErrorOf;
 
 TEST(Text, ComesFromUtf8AndGoesBack) {
   EXPECT_EQ("Départements €"_t, "D\xE9partements \x80");

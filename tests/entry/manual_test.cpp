@@ -11,7 +11,7 @@ TEST_F(ManualTest, OpensBesideTheProgramOrTellsWhereItIs) {
   ReadyStation();
   const auto open_manual = [&] { Event([&] { programme->Fenetre<DDFM>().Mnu_Mode_Emploi.UserClick(); }); };
   open_manual();
-  ASSERT_EQ(devices.documents.opened, std::vector<std::string>{folder.File("manuel/index.html")});
+  ASSERT_EQ(devices.documents.opened, Lines{folder.File("manuel/index.html")});
   EXPECT_TRUE(messages.TakeMessages().empty());
 
   devices.documents.readable = false;

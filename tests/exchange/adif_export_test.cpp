@@ -6,27 +6,15 @@
 #include "core/log_line.h"
 #include "entry/ddfm.h"
 #include "exchange/export_adif_window.h"
+#include "support/contact.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
 namespace {
 
-using Lines = std::vector<std::string>;
-
 Champs_QSO Qso() {
-  Champs_QSO qso;
-  qso.Date_A = "12/05/03";
-  qso.Indicatif_A = "F9QZX";
-  qso.Debut_A = "12:05";
-  qso.Fin_A = "12:17";
-  qso.Depart_A = "06";
-  qso.Locator_A = "JN33BB";
-  qso.Bande_A = "144 Mhz";
-  qso.Mode_A = "SSB";
-  qso.RSTE_A = "59";
-  qso.RSTR_A = "57";
-  qso.QTH_A = "NICE";
-  qso.Prenom_A = "Zo\xE9";
+  Champs_QSO qso =
+      Contact({"12/05/03", "F9QZX", "12:05", "12:17", "06", "JN33BB", "144 Mhz", "SSB", "59", "57", "NICE", "Zo\xE9"});
   qso.Distance_A = "12";
   qso.Activ_A = "0";
   qso.Remarques_A = "premier QSO";

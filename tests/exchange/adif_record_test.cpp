@@ -4,6 +4,7 @@
 
 #include "core/log_line.h"
 #include "core/text.h"
+#include "support/error_of.h"
 
 namespace vorelio::tests {
 namespace {
@@ -245,14 +246,7 @@ TEST(AdifFile, WhatStopsTheFirstScan) {
       {"<EOH>\r\n<TIME_ON:4>1234<EOR>\r\n", Erreur::Argument_Invalide},
       {"<EOH>\r\n<QSO_DATE:8>20030512<TIME_ON:4>1234\r\n<EOR>", Erreur::Argument_Invalide},
   };
-  for (const auto& c : cases) {
-    try {
-      Premier_ADIF(c.text);
-      ADD_FAILURE() << c.text;
-    } catch (const Erreur_Execution& error) {
-      EXPECT_EQ(error.Genre(), c.error) << c.text;
-    }
-  }
+  for (const auto& c : cases) EXPECT_EQ(ErrorOf([&] { Premier_ADIF(c.text); }), static_cast<int>(c.error)) << c.text;
 }
 
 }  // namespace

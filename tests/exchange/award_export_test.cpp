@@ -5,28 +5,17 @@
 #include "core/log_line.h"
 #include "entry/ddfm.h"
 #include "exchange/award_export_window.h"
+#include "support/contact.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
 namespace {
 
-using Lines = std::vector<std::string>;
-
 constexpr std::size_t kDFCF = 0, kDMF = 1, kDCI = 2, kDAI = 3, kDPLF = 4;
 
 Champs_QSO Activation(const std::string& reference) {
-  Champs_QSO qso;
-  qso.Date_A = "12/05/03";
-  qso.Indicatif_A = "IK1ABC/P";
-  qso.Debut_A = "12:05";
-  qso.Fin_A = "12:17";
-  qso.Depart_A = "2a";
-  qso.Bande_A = "7.0 Mhz";
-  qso.Mode_A = "PSK31";
-  qso.RSTE_A = "599";
-  qso.RSTR_A = "57";
-  qso.QTH_A = reference;
-  qso.Prenom_A = "Ren\xE9";
+  Champs_QSO qso = Contact(
+      {"12/05/03", "IK1ABC/P", "12:05", "12:17", "2a", "", "7.0 Mhz", "PSK31", "599", "57", reference, "Ren\xE9"});
   qso.Activ_A = "1";
   return qso;
 }

@@ -8,6 +8,7 @@
 #include "exchange/log_splice.h"
 #include "exchange/native_import.h"
 #include "exchange/text_import.h"
+#include "support/contact.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -18,13 +19,8 @@ using namespace Sous_Programmes;
 const std::string kMarker = "01/01/50  XXXXXX      12:00  12:05" + Blancs(164) + "*";
 const std::string kMarker_EDI = "01/01/50  XXXXXX      00:00  00:05" + Blancs(164) + "*";
 
-std::string Contact(const std::string& date, const std::string& time, const std::string& call) {
-  Champs_QSO qso;
-  qso.Date_A = date;
-  qso.Debut_A = time;
-  qso.Indicatif_A = call;
-  qso.Bande_A = "14 Mhz";
-  return Construit_Ligne(qso);
+std::string LogLine(const std::string& date, const std::string& time, const std::string& call) {
+  return Construit_Ligne(Contact({date, call, time, "", "", "", "14 Mhz"}));
 }
 
 std::string Adif(const std::string& date, const std::string& time, const std::string& call) {
@@ -40,7 +36,7 @@ class Imports : public StationFixture {
   Imports() { ReadyStation("F9QZX"); }
 
   /// Starts over a log of these lines.
-  void Start(const std::vector<std::string>& log) {
+  void Start(const Lines& log) {
     WriteLines("F9QZX.log", log);
     Restart();
     Event([&] { programme->Fenetre<DDFM>(); });
@@ -55,13 +51,11 @@ class Imports : public StationFixture {
     dialogs.Choose(folder.File("in"));
     Event([&] { import(*programme); });
   }
-  void Adif_Lines(const std::vector<std::string>& records) { Import(Importe_ADIF, "<EOH>\r\n" + Joined(records)); }
-  void Edi_Lines(const std::vector<std::string>& records) {
-    Import(Importe_EDI, "PBand=144\r\n[QSORecords;1]\r\n" + Joined(records));
-  }
-  void Ctf_Lines(const std::vector<std::string>& lines) { Import(Importe_CTF, Joined(lines)); }
+  void Adif_Lines(const Lines& records) { Import(Importe_ADIF, "<EOH>\r\n" + Joined(records)); }
+  void Edi_Lines(const Lines& records) { Import(Importe_EDI, "PBand=144\r\n[QSORecords;1]\r\n" + Joined(records)); }
+  void Ctf_Lines(const Lines& lines) { Import(Importe_CTF, Joined(lines)); }
 
-  static std::string Joined(const std::vector<std::string>& lines) {
+  static std::string Joined(const Lines& lines) {
     std::string bytes;
     for (const std::string& line : lines) bytes.append(line).append("\r\n");
     return bytes;
@@ -89,25 +83,26 @@ TEST_F(Imports, ACancelledDialogLeavesOneMarkerThatTheNextImportTakesAway) {
   } cases[] = {{Importe_ADIF, ".adi (adi)|*.adi", kMarker},
                {Importe_EDI, ".edi (edi)|*.edi", kMarker_EDI},
                {Importe_CTF, ".ctf (ctf)|*.ctf", kMarker}};
-  const std::string old = Contact("12/05/03", "12:00", "F1OLD");
+  const std::string old = LogLine("12/05/03", "12:00", "F1OLD");
   for (const auto& c : cases) {
     Start({old});
     dialogs.Choose("");
     Event([&] { c.import(*programme); });
-    EXPECT_EQ(messages.TakeMessages(), std::vector<std::string>{"selectionnez un fichier ou quitter"});
+    EXPECT_EQ(messages.TakeMessages(), Lines{"selectionnez un fichier ou quitter"});
     EXPECT_EQ(Read("F9QZX.log"), old + "\r\n" + c.marker + "\r\n");
-    EXPECT_EQ(disk.Log(), std::vector<std::string>{"append F9QZX.log"});
+    EXPECT_EQ(disk.Log(), Lines{"append F9QZX.log"});
     EXPECT_EQ(dialogs.calls.back().filter, c.filter);
     EXPECT_EQ(dialogs.calls.back().name, "");
     EXPECT_EQ(Status(), "");
+    EXPECT_EQ(programme->Ouverte<DDFM>()->Liste_QSO.Count(), 1);
     Adif_Lines({Adif("20030513", "1200", "F2NEW")});
     EXPECT_EQ(Calls("F9QZX.log"), "F1OLD F2NEW ");
   }
 }
 
 TEST_F(Imports, TheBlockGoesInAtOnePlaceInItsOwnOrder) {
-  const std::vector<std::string> log = {Contact("01/01/99", "10:00", "A"), Contact("12/05/03", "12:34", "B"),
-                                        Contact("31/12/49", "23:59", "C")};
+  const Lines log = {LogLine("01/01/99", "10:00", "A"), LogLine("12/05/03", "12:34", "B"),
+                     LogLine("31/12/49", "23:59", "C")};
   const struct {
     const char* date;
     const char* time;
@@ -138,7 +133,7 @@ TEST_F(Imports, TheBlockGoesInAtOnePlaceInItsOwnOrder) {
     Edi_Lines({Edi(year + month + day, hhmm, "N"), Edi("000101", "0000", "M")});
     EXPECT_EQ(Calls("F9QZX.log"), c.edi) << "EDI " << date << " " << time;
     Start(log);
-    Ctf_Lines({Contact(date, time, "N"), Contact("01/01/00", "00:00", "M")});
+    Ctf_Lines({LogLine(date, time, "N"), LogLine("01/01/00", "00:00", "M")});
     EXPECT_EQ(Calls("F9QZX.log"), c.ctf) << "CTF " << date << " " << time;
     EXPECT_EQ(messages.fatal_number, 0);
   }
@@ -149,7 +144,7 @@ TEST_F(Imports, TheBlockGoesInAtOnePlaceInItsOwnOrder) {
 }
 
 TEST_F(Imports, LinesOfTheYear50LieOnEitherSide) {
-  const std::vector<std::string> log = {Contact("02/01/50", "10:00", "A"), Contact("12/05/03", "10:00", "B")};
+  const Lines log = {LogLine("02/01/50", "10:00", "A"), LogLine("12/05/03", "10:00", "B")};
   Start(log);
   Adif_Lines({Adif("20020101", "0000", "N")});
   EXPECT_EQ(Calls("F9QZX.log"), "N A B ");
@@ -157,7 +152,7 @@ TEST_F(Imports, LinesOfTheYear50LieOnEitherSide) {
   Edi_Lines({Edi("020101", "0000", "N")});
   EXPECT_EQ(Calls("F9QZX.log"), "A N B ");
   Start(log);
-  Ctf_Lines({Contact("01/01/02", "00:00", "N")});
+  Ctf_Lines({LogLine("01/01/02", "00:00", "N")});
   EXPECT_EQ(Calls("F9QZX.log"), "N A B ");
 }
 
@@ -170,8 +165,8 @@ TEST_F(Imports, AnEmptyLogAndAnEmptyLineInTheLog) {
   EXPECT_EQ(Calls("F9QZX.log"), "");
   EXPECT_EQ(Status(), De_Utf8("Import EDI : 1 enregistrement lu, 0 ligne ajoutée"));
 
-  const std::string line = Contact("12/05/03", "12:34", "A");
-  Start({line, "", Contact("13/05/03", "12:34", "B")});
+  const std::string line = LogLine("12/05/03", "12:34", "A");
+  Start({line, "", LogLine("13/05/03", "12:34", "B")});
   Adif_Lines({Adif("20030512", "1235", "N")});
   EXPECT_EQ(Calls("F9QZX.log"), "A - N B ");
   // At the top it has no line before it to take a date from.
@@ -182,20 +177,20 @@ TEST_F(Imports, AnEmptyLogAndAnEmptyLineInTheLog) {
 
   // In the other two it has none anywhere, also behind the place of the block.
   for (const bool behind : {false, true}) {
-    Start(behind ? std::vector<std::string>{line, ""} : std::vector<std::string>{"", line});
+    Start(behind ? Lines{line, ""} : Lines{"", line});
     Edi_Lines({Edi("030511", "0000", "N")});
     EXPECT_EQ(messages.fatal_number, 13);
     EXPECT_EQ(Calls("Temporaire7.txt"), behind ? "N A " : "");
     EXPECT_EQ(Calls("F9QZX.log"), behind ? "A - XXXXXX " : "- A XXXXXX ");
-    Start(behind ? std::vector<std::string>{line, ""} : std::vector<std::string>{"", line});
-    Ctf_Lines({Contact("11/05/03", "00:00", "N")});
+    Start(behind ? Lines{line, ""} : Lines{"", line});
+    Ctf_Lines({LogLine("11/05/03", "00:00", "N")});
     EXPECT_EQ(messages.fatal_number, 13);
     EXPECT_EQ(Calls("Temporaire7.txt"), behind ? "N A " : "");
   }
 }
 
 TEST_F(Imports, EveryFailureLeavesTheLogWithItsMarkerAndWhatWasMerged) {
-  const std::string a = Contact("12/05/03", "12:34", "A"), b = Contact("13/05/03", "12:34", "B");
+  const std::string a = LogLine("12/05/03", "12:34", "A"), b = LogLine("13/05/03", "12:34", "B");
   const std::string good = Adif("20030513", "0000", "N");
   const struct {
     void (*import)(Programme&);
@@ -239,32 +234,31 @@ TEST_F(Imports, EveryFailureLeavesTheLogWithItsMarkerAndWhatWasMerged) {
 }
 
 TEST_F(Imports, TouchesTheDiskInThisOrder) {
-  Start({Contact("12/05/03", "12:34", "A")});
-  const std::vector<std::string> splice = {"append F9QZX.log",      "read in",          "read F9QZX.log",
-                                           "write Temporaire7.txt", "delete F9QZX.log", "write F9QZX.log",
-                                           "delete Temporaire7.txt"};
+  Start({LogLine("12/05/03", "12:34", "A")});
+  const Lines splice = {"append F9QZX.log", "read in",         "read F9QZX.log",        "write Temporaire7.txt",
+                        "delete F9QZX.log", "write F9QZX.log", "delete Temporaire7.txt"};
   Edi_Lines({Edi("030511", "0000", "N"), Edi("030511", "0001", "M")});
   auto expected = splice;
   expected.push_back("read F9QZX.log");
   EXPECT_EQ(disk.Log(), expected);
-  EXPECT_EQ(messages.TakeMessages(), std::vector<std::string>{});
+  EXPECT_EQ(messages.TakeMessages(), Lines{});
 
   // The rebuilds follow, each with its own box.
-  Start({Contact("12/05/03", "12:34", "A")});
-  Ctf_Lines({Contact("13/05/03", "12:34", "N")});
-  const std::vector<std::string> boxes = {"Le fichier Prefixe va etre mis a jour a partir du fichier log",
-                                          "Le fichier Locator va etre mis a jour a partir du fichier log",
-                                          "Le fichier Departement va etre mis a jour a partir du fichier log"};
+  Start({LogLine("12/05/03", "12:34", "A")});
+  Ctf_Lines({LogLine("13/05/03", "12:34", "N")});
+  const Lines boxes = {"Le fichier Prefixe va etre mis a jour a partir du fichier log",
+                       "Le fichier Locator va etre mis a jour a partir du fichier log",
+                       "Le fichier Departement va etre mis a jour a partir du fichier log"};
   EXPECT_EQ(messages.TakeMessages(), boxes);
-  EXPECT_EQ(std::vector<std::string>(disk.Log().begin(), disk.Log().begin() + 7), splice);
-  Start({Contact("12/05/03", "12:34", "A")});
+  EXPECT_EQ(Lines(disk.Log().begin(), disk.Log().begin() + 7), splice);
+  Start({LogLine("12/05/03", "12:34", "A")});
   Adif_Lines({Adif("20030513", "0000", "N")});
   EXPECT_EQ(messages.TakeMessages(), boxes);
   EXPECT_EQ(disk.Log()[3], "write Temporaire8.txt");
 }
 
 TEST_F(Imports, FaultsOfTheDisk) {
-  const std::string a = Contact("12/05/03", "12:34", "A");
+  const std::string a = LogLine("12/05/03", "12:34", "A");
   const struct {
     const char* at;
     Erreur error;
@@ -290,15 +284,15 @@ TEST_F(Imports, FaultsOfTheDisk) {
 }
 
 TEST_F(Imports, NativeLinesComeInAsTheyStand) {
-  const std::string odd = Contact("11/05/03", "12:00", "N").substr(0, 60);
-  const std::string utf8 = Contact("01/01/01", "00:00", "M").replace(110, 5, "Zo\xC3\xA9 ");
+  const std::string odd = LogLine("11/05/03", "12:00", "N").substr(0, 60);
+  const std::string utf8 = LogLine("01/01/01", "00:00", "M").replace(110, 5, "Zo\xC3\xA9 ");
   const std::string marker = kMarker_EDI;
-  Start({Contact("12/05/03", "12:34", "A")});
+  Start({LogLine("12/05/03", "12:34", "A")});
   Import(Importe_CTF, odd + "\n" + utf8 + "\r\n\r\n" + marker + "\r\nx");
-  EXPECT_EQ(Read("F9QZX.log"), odd + "\r\n" + utf8 + "\r\n\r\nx\r\n" + Contact("12/05/03", "12:34", "A") + "\r\n");
+  EXPECT_EQ(Read("F9QZX.log"), odd + "\r\n" + utf8 + "\r\n\r\nx\r\n" + LogLine("12/05/03", "12:34", "A") + "\r\n");
   // A second time they are there twice.
-  Start({Contact("12/05/03", "12:34", "A")});
-  const std::string line = Contact("13/05/03", "12:00", "N");
+  Start({LogLine("12/05/03", "12:34", "A")});
+  const std::string line = LogLine("13/05/03", "12:00", "N");
   Ctf_Lines({line});
   Ctf_Lines({line});
   EXPECT_EQ(Calls("F9QZX.log"), "A N N ");
@@ -306,7 +300,7 @@ TEST_F(Imports, NativeLinesComeInAsTheyStand) {
 }
 
 TEST_F(Imports, EventsAreServedAndNoContactIsLostMeanwhile) {
-  const std::string a = Contact("12/05/03", "12:34", "A"), saved = Contact("14/05/03", "10:00", "SAVED");
+  const std::string a = LogLine("12/05/03", "12:34", "A"), saved = LogLine("14/05/03", "10:00", "SAVED");
   Start({a});
   auto& ddfm = *programme->Ouverte<DDFM>();
   int served = 0;

@@ -22,6 +22,7 @@
 #include "exchange/log_splice.h"
 #include "exchange/native_import.h"
 #include "fuzz/memory_disk.h"
+#include "support/contact.h"
 
 namespace vorelio::tests {
 
@@ -70,7 +71,7 @@ class ImportTarget {
     return importer;
   }
   static const Importer& Native() {
-    static const std::string seed = Contact("12/05/03", "14 Mhz") + "\r\n" + Contact("13/05/03", "144 Mhz") + "\n";
+    static const std::string seed = Line("12/05/03", "14 Mhz") + "\r\n" + Line("13/05/03", "144 Mhz") + "\n";
     static const Importer importer{"CTF",       Sous_Programmes::Importe_CTF, "Temporaire7.txt", {5, 13, 62}, false,
                                    seed.c_str()};
     return importer;
@@ -84,8 +85,8 @@ class ImportTarget {
       templates_[Path(kStation + std::string(name).substr(5))] = templates.Read(name);
     }
     SeedStationSettings(settings_, kFolder, '/', kStation, "JN33BB");
-    log_ = Contact("12/05/02", "14 Mhz") + "\r\n" + Contact("12/05/03", "144 Mhz") + "\r\n" +
-           Contact("31/12/49", "14 Mhz") + "\r\n";
+    log_ = Line("12/05/02", "14 Mhz") + "\r\n" + Line("12/05/03", "144 Mhz") + "\r\n" + Line("31/12/49", "14 Mhz") +
+           "\r\n";
     Start();
   }
 
@@ -112,15 +113,8 @@ class ImportTarget {
 
   static std::string Path(const std::string& name) { return std::string(kFolder) + "/" + name; }
 
-  static std::string Contact(const char* date, const char* band) {
-    Champs_QSO qso;
-    qso.Date_A = date;
-    qso.Debut_A = "12:00";
-    qso.Indicatif_A = "F6ABC";
-    qso.Depart_A = "06";
-    qso.Locator_A = "JN33BB";
-    qso.Bande_A = band;
-    return Construit_Ligne(qso);
+  static std::string Line(const char* date, const char* band) {
+    return Construit_Ligne(Contact({date, "F6ABC", "12:00", "", "06", "JN33BB", band}));
   }
 
   void Start() {

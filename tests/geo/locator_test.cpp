@@ -2,24 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "core/errors.h"
+#include "support/error_of.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
 namespace {
 
 using namespace Sous_Programmes;
-
-/// Number of the run-time error that `action` raises, 0 if none.
-template <typename Action>
-int ErrorOf(Action action) {
-  try {
-    action();
-  } catch (const Erreur_Execution& error) {
-    return error.Numero();
-  }
-  return 0;
-}
 
 class LocatorTest : public StationFixture {};
 

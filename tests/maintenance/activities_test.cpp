@@ -10,7 +10,6 @@ namespace vorelio::tests {
 namespace {
 
 using namespace Sous_Programmes;
-using Lines = std::vector<std::string>;
 
 constexpr const char* kSection = "Setup F6ABC";
 

@@ -8,7 +8,6 @@ namespace vorelio::tests {
 namespace {
 
 using namespace Sous_Programmes;
-using Lines = std::vector<std::string>;
 
 constexpr const char* kSection = "Setup F6ABC";
 
@@ -87,6 +86,7 @@ TEST_F(BackupTest, RestoringBringsLogAndTalliesBack) {
   folder.Remove("sauve/F6.bak");
   Event([&] { Restaure_Sauvegarde(*programme); });
   EXPECT_EQ(programme->Erreur_Fatale(), 53);
+  EXPECT_EQ(Read("F6ABC.log"), "log");
 }
 
 }  // namespace

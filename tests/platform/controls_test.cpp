@@ -2,16 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
-#include "core/errors.h"
 #include "core/programme.h"
 #include "core/text.h"
-#include "doubles/devices.h"
-#include "doubles/services.h"
-#include "platform/posix_disk.h"
+#include "support/error_of.h"
+#include "support/station_fixture.h"
 
-namespace vorelio {
+namespace vorelio::tests {
 namespace {
 
 /// A window that writes down the events it gets.
@@ -68,14 +64,12 @@ class ModalPage : public Page {
   explicit ModalPage(Programme& programme) : Page(programme, "ModalPage") {}
 };
 
-class Controls : public ::testing::Test {
+class Controls : public StationFixture {
  protected:
   Controls() {
     page.Show();
     page.events.clear();
   }
-
-  void Event(const std::function<void()>& action) { programme.Recoit(action); }
 
   void Type(TextField& field, std::string_view keys) {
     for (const char key : keys) Event([&] { field.UserKey(static_cast<unsigned char>(key)); });
@@ -83,26 +77,7 @@ class Controls : public ::testing::Test {
 
   std::vector<std::string> Events() { return std::exchange(page.events, {}); }
 
-  static int ErrorOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const Erreur_Execution& error) {
-      return error.Numero();
-    }
-    return 0;
-  }
-
-  using Lines = std::vector<std::string>;
-
-  doubles::MapSettings settings;
-  doubles::RecordedMessages messages;
-  doubles::QueuedDialogs dialogs;
-  doubles::FixedClock clock;
-  doubles::SilentWindows windows;
-  doubles::Devices devices;
-  PosixDisk disk;
-  Programme programme{devices.Join(settings, messages, dialogs, clock, windows, disk, "/nowhere")};
-  MainPage& page = programme.Fenetre<MainPage>();
+  MainPage& page = programme->Fenetre<MainPage>();
 };
 
 // --- Text fields ----------------------------------------------------------------------------------------------------
@@ -167,7 +142,7 @@ TEST_F(Controls, ReadOnlyTakesFocusAndPasteButNoKeys) {
   Type(page.field, "x");
   EXPECT_EQ(page.field.Text(), "ab");
   EXPECT_EQ(Events(), Lines{"key 120"});
-  EXPECT_EQ(programme.Focus(), &page.field);
+  EXPECT_EQ(programme->Focus(), &page.field);
   Event([&] { page.field.UserText("collé"_t, 2); });
   EXPECT_EQ(page.field.Text(), "collé"_t);
   EXPECT_EQ(page.field.Caret(), 2);
@@ -346,7 +321,7 @@ TEST_F(Controls, UnreachableControlsTakeNothing) {
     poke();
     EXPECT_EQ(Events(), Lines{});
     EXPECT_EQ(page.field.Text(), "ab");
-    EXPECT_EQ(programme.Focus(), nullptr);
+    EXPECT_EQ(programme->Focus(), nullptr);
     take();
   }
   poke();
@@ -362,7 +337,7 @@ TEST_F(Controls, ProceduresActOnDisabledControls) {
   EXPECT_EQ(Events(), Lines{"combo 0"});
   EXPECT_EQ(page.field.Text(), "z");
   page.field.SetFocus();
-  EXPECT_EQ(programme.Focus(), nullptr);
+  EXPECT_EQ(programme->Focus(), nullptr);
   page.timer.SetEnabled(false);
   page.timer.Tick = [&] { page.events.push_back("tick"); };
   Event([&] { page.timer.Fire(); });
@@ -374,7 +349,7 @@ TEST_F(Controls, ProceduresActOnDisabledControls) {
 // --- Windows and the program ----------------------------------------------------------------------------------------
 
 TEST_F(Controls, AWindowMayUnloadItselfInItsOwnHandler) {
-  auto& modal = programme.Fenetre<ModalPage>();
+  auto& modal = programme->Fenetre<ModalPage>();
   EXPECT_EQ(modal.events, Lines{"load"});
   modal.Show();
   modal.field.SetText("state");
@@ -389,21 +364,21 @@ TEST_F(Controls, AWindowMayUnloadItselfInItsOwnHandler) {
     EXPECT_FALSE(modal.Visible());
   };
   Event([&] { modal.button.UserClick(); });
-  EXPECT_EQ(programme.Ouverte<ModalPage>(), nullptr);
-  EXPECT_EQ(programme.Cherche_Fenetre("ModalPage"), nullptr);
-  auto& anew = programme.Fenetre<ModalPage>();
+  EXPECT_EQ(programme->Ouverte<ModalPage>(), nullptr);
+  EXPECT_EQ(programme->Cherche_Fenetre("ModalPage"), nullptr);
+  auto& anew = programme->Fenetre<ModalPage>();
   EXPECT_EQ(anew.field.Text(), "ab");
   EXPECT_EQ(anew.events, Lines{"load"});
 }
 
 TEST_F(Controls, FocusGoesBackToTheMainWindow) {
   page.field.SetFocus();
-  auto& modal = programme.Fenetre<ModalPage>();
+  auto& modal = programme->Fenetre<ModalPage>();
   modal.Show();
   modal.field.SetFocus();
-  EXPECT_EQ(programme.Focus(), &modal.field);
+  EXPECT_EQ(programme->Focus(), &modal.field);
   Event([&] { modal.UserClose(); });
-  EXPECT_EQ(programme.Focus(), &page.field);
+  EXPECT_EQ(programme->Focus(), &page.field);
 }
 
 TEST_F(Controls, AnEventIsABoundaryWhateverItsCallerTraps) {
@@ -420,22 +395,22 @@ TEST_F(Controls, AnEventIsABoundaryWhateverItsCallerTraps) {
   });
   EXPECT_FALSE(trapped);
   EXPECT_FALSE(after);
-  EXPECT_TRUE(programme.Termine_Deja());
-  EXPECT_EQ(programme.Erreur_Fatale(), 13);
+  EXPECT_TRUE(programme->Termine_Deja());
+  EXPECT_EQ(programme->Erreur_Fatale(), 13);
   EXPECT_EQ(messages.fatal_number, 13);
-  EXPECT_EQ(messages.Texts(doubles::Box::Kind::Fatal), Lines{"Erreur d'exécution '13' : Type incompatible"_t});
+  EXPECT_EQ(messages.Texts(Box::Kind::Fatal), Lines{"Erreur d'exécution '13' : Type incompatible"_t});
   EXPECT_FALSE(page.Visible());
 }
 
 TEST_F(Controls, TheProgramCanEndWhileABoxWaits) {
-  messages.OnBox = [&](const doubles::Box&) { Event([&] { page.UserClose(); }); };
+  messages.OnBox = [&](const Box&) { Event([&] { page.UserClose(); }); };
   bool after = false;
   Event([&] {
-    programme.Message("attente");
+    programme->Message("attente");
     after = true;
   });
   EXPECT_FALSE(after);
-  EXPECT_TRUE(programme.Termine_Deja());
+  EXPECT_TRUE(programme->Termine_Deja());
   EXPECT_EQ(messages.TakeMessages(), Lines{"attente"});
 }
 
@@ -443,10 +418,10 @@ TEST_F(Controls, EventsServedInALoopMayEndTheProgram) {
   windows.OnServe = [&] { Event([&] { page.UserClose(); }); };
   int rounds = 0;
   Event([&] {
-    for (; rounds < 5; ++rounds) programme.Traite_Evenements();
+    for (; rounds < 5; ++rounds) programme->Traite_Evenements();
   });
   EXPECT_EQ(rounds, 0);
-  EXPECT_TRUE(programme.Termine_Deja());
+  EXPECT_TRUE(programme->Termine_Deja());
 }
 
 /// Writes down what a control tells its view.
@@ -474,4 +449,4 @@ TEST_F(Controls, ViewsHearOfChangesOnly) {
 }
 
 }  // namespace
-}  // namespace vorelio
+}  // namespace vorelio::tests

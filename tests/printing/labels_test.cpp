@@ -6,6 +6,7 @@
 #include "printing/label_sheet.h"
 #include "printing/labels_window.h"
 #include "printing/select_qso_window.h"
+#include "support/contact.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -13,16 +14,8 @@ namespace vorelio::tests {
 namespace {
 
 std::string ListLine() {
-  Champs_QSO qso;
-  qso.Date_A = "12/05/03";
-  qso.Indicatif_A = "F9ABC";
-  qso.Debut_A = "14:32";
-  qso.RSTE_A = "59";
-  qso.RSTR_A = "57";
-  qso.Mode_A = "SSB";
-  qso.Bande_A = "144 Mhz";
-  qso.QTH_A = "DFCF 3301234 BORDEAUX";
-  return Colonne_Numero(7) + Construit_Ligne(qso);
+  return Colonne_Numero(7) + Construit_Ligne(Contact({"12/05/03", "F9ABC", "14:32", "", "", "", "144 Mhz", "SSB", "59",
+                                                      "57", "DFCF 3301234 BORDEAUX"}));
 }
 
 const Textes_Etiquette kTexts{"F9QZX_P", "FT-847", "9 elements"};
@@ -94,7 +87,7 @@ TEST_F(LabelRunTest, EachSheetIsAJob) {
                {16, true, {true}, eight + "ED"},
                {33, true, {true, false}, eight + "E" + eight + "E"}};
   for (const auto& run : cases) {
-    WriteLines("F6ABC.log", std::vector<std::string>(static_cast<std::size_t>(run.labels), ListLine().substr(6)));
+    WriteLines("F6ABC.log", Lines(static_cast<std::size_t>(run.labels), ListLine().substr(6)));
     for (const bool answer : run.answers) messages.Answer(answer);
     devices.printer.events.clear();
     Event([&] {
@@ -117,7 +110,7 @@ TEST_F(LabelRunTest, EachSheetIsAJob) {
       if (event.font.size == 27) paper += 'g';
     }
     EXPECT_EQ(paper, run.paper) << run.labels;
-    EXPECT_EQ(messages.TakeQuestions(), std::vector<std::string>(run.answers.size(), "               Page suivante ?"));
+    EXPECT_EQ(messages.TakeQuestions(), Lines(run.answers.size(), "               Page suivante ?"));
     EXPECT_EQ(devices.printer.Font(), (PrinterFont{"Arial", 10, false}));
     EXPECT_EQ(programme->Ouverte<Select_QSO>(), nullptr);
   }

@@ -4,6 +4,7 @@
 #include "core/log_line.h"
 #include "entry/ddfm.h"
 #include "qsl/qsl_window.h"
+#include "support/contact.h"
 #include "support/random_log.h"
 #include "support/station_fixture.h"
 
@@ -73,15 +74,9 @@ TEST_F(MultiQsl, ABatchLeavesWhatTheCardsOneByOneWould) {
 }
 
 TEST_F(MultiQsl, AFailureHalfWayLeavesTheCardsBeforeItInTheLog) {
-  Champs_QSO qso;
-  qso.Date_A = "12/05/03";
-  qso.Indicatif_A = "F6ABC";
   std::string log;
-  for (const auto& [band, department] : {std::pair("14 Mhz", "06"), std::pair("144 Mhz", "07"), {"14 Mhz", "08"}}) {
-    qso.Bande_A = band;
-    qso.Depart_A = department;
-    log += Construit_Ligne(qso) + "\r\n";
-  }
+  for (const auto& [band, department] : {std::pair("14 Mhz", "06"), std::pair("144 Mhz", "07"), {"14 Mhz", "08"}})
+    log += Construit_Ligne(Contact({"12/05/03", "F6ABC", "", "", department, "", band})) + "\r\n";
   Start(log);
   auto& window = Open(true);
   for (int row = 0; row < 3; ++row) window.Liste_QSO.UserTick(row);

@@ -20,6 +20,8 @@ namespace vorelio::tests {
 
 using namespace doubles;
 
+using Lines = std::vector<std::string>;
+
 /// A scratch program directory as the program is delivered, doubles of every service, and a run over them. A test that
 /// wants a station calls `ReadyStation`; one that wants the first run doesn't.
 class StationFixture : public ::testing::Test {
@@ -42,7 +44,7 @@ class StationFixture : public ::testing::Test {
   std::string Read(std::string_view name) const { return folder.Read(name); }
   void Write(std::string_view name, std::string_view bytes) const { folder.Write(name, bytes); }
   /// A file with these lines, each ended by CR LF.
-  void WriteLines(std::string_view name, const std::vector<std::string>& lines) const {
+  void WriteLines(std::string_view name, const Lines& lines) const {
     std::string bytes;
     for (const std::string& line : lines) bytes.append(line).append("\r\n");
     Write(name, bytes);

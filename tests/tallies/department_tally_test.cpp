@@ -9,7 +9,6 @@ namespace vorelio::tests {
 namespace {
 
 using namespace Sous_Programmes;
-using Lines = std::vector<std::string>;
 
 constexpr const char* kFile = "F6ABC_Departement.txt";
 

@@ -134,8 +134,7 @@ TEST_F(Rebuild, AnEmptyLogGivesTheTemplate) {
   Start();
   Event([&] { Sous_Programmes::Refait_Prefixes(*programme); });
   EXPECT_EQ(Read("F9QZX_Prefixe.txt"), Read("FXXXX_Prefixe.txt"));
-  EXPECT_EQ(messages.TakeMessages(),
-            std::vector<std::string>{"Le fichier Prefixe va etre mis a jour a partir du fichier log"});
+  EXPECT_EQ(messages.TakeMessages(), Lines{"Le fichier Prefixe va etre mis a jour a partir du fichier log"});
 }
 
 TEST_F(Rebuild, TheLocatorRebuildNamesTheTemplateWhateverIsMissing) {
