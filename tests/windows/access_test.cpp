@@ -11,12 +11,10 @@
 #include <set>
 
 #include "platform/qt/qt_text.h"
-#include "platform/qt/window_extras.h"
 #include "tallies/tally_file.h"
 #include "windows/every_form.h"
 
 namespace vorelio::tests {
-
 namespace {
 
 QString Mnemonic(const QString& text) {
@@ -84,46 +82,43 @@ bool ReadOnly(const QWidget& widget) {
   return line && line->isReadOnly();
 }
 
-}  // namespace
-
 /// Every window without a mouse, and without being seen.
-class AccessTest : public QObject {
-  Q_OBJECT
+using AccessTest = On<ProgramLook>;
 
- private Q_SLOTS:
-  void EveryControlCanBeSpoken_data() { AddForms(); }
-  void EveryControlCanBeSpoken() {
-    QFETCH(int, number);
-    Bound bound(kForms[number], Furnisher());
+TEST_F(AccessTest, EveryControlCanBeSpoken) {
+  for (const Maker make : kForms) {
+    Bound bound(make, Furnisher());
+    SCOPED_TRACE(bound.form->Name());
     for (Control* control : bound.form->Controls())
       if (auto* list = dynamic_cast<ListBox*>(control)) list->AddItem("F6ABC");
     bound.bench.windows.ShowPending();
     QStringList problems;
     LookForNameless(*QAccessible::queryAccessibleInterface(&bound.Window()), problems);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    EXPECT_TRUE(problems.isEmpty()) << qPrintable(problems.join(u'\n'));
   }
+}
 
-  void ACellSpeaksItsColour() {
-    Bound bound(Make<Carte>);
-    auto& cell = static_cast<Carte&>(*bound.form).Dep(57);
-    const auto heard = [&] {
-      return QAccessible::queryAccessibleInterface(bound.bench.windows.WidgetOf(cell))->text(QAccessible::Description);
-    };
-    cell.SetColour(kDpt_QSL_Recue);
-    QCOMPARE(heard(), QStringLiteral("QSL reçue"));
-    cell.SetColour(kFond_Fenetre);
-    QCOMPARE(heard(), QString());
-  }
+TEST_F(AccessTest, ACellSpeaksItsColour) {
+  Bound bound(Make<Carte>);
+  auto& cell = static_cast<Carte&>(*bound.form).Dep(57);
+  const auto heard = [&] {
+    return QAccessible::queryAccessibleInterface(bound.bench.windows.WidgetOf(cell))->text(QAccessible::Description);
+  };
+  cell.SetColour(kDpt_QSL_Recue);
+  EXPECT_EQ(heard(), QStringLiteral("QSL reçue"));
+  cell.SetColour(kFond_Fenetre);
+  EXPECT_EQ(heard(), QString());
+}
 
-  void MnemonicsDoNotClash_data() { AddForms(); }
-  void MnemonicsDoNotClash() {
-    QFETCH(int, number);
-    Bound bound(kForms[number], Furnisher());
+TEST_F(AccessTest, MnemonicsDoNotClash) {
+  for (const Maker make : kForms) {
+    Bound bound(make, Furnisher());
+    SCOPED_TRACE(bound.form->Name());
     std::map<QString, QString> taken;
     const auto take = [&](const QString& text) {
       const QString letter = Mnemonic(text);
       if (letter.isEmpty()) return;
-      QVERIFY2(!taken.contains(letter), qPrintable(text + QStringLiteral(" / ") + taken[letter]));
+      EXPECT_TRUE(!taken.contains(letter)) << qPrintable(text + QStringLiteral(" / ") + taken[letter]);
       taken[letter] = text;
     };
     for (const auto* label : bound.Window().findChildren<QLabel*>())
@@ -133,7 +128,7 @@ class AccessTest : public QObject {
       for (const auto* entry : main->menuBar()->actions()) take(entry->text());
     // Nothing of a menu can be reached by a letter but by its own.
     for (const QMenu* menu : bound.Window().findChildren<QMenu*>()) {
-      QVERIFY2(!Mnemonic(menu->title()).isEmpty(), qPrintable(menu->title()));
+      EXPECT_TRUE(!Mnemonic(menu->title()).isEmpty()) << qPrintable(menu->title());
       std::set<QString> within;
       for (const QAction* entry : menu->actions())
         if (!entry->isSeparator())
@@ -141,11 +136,12 @@ class AccessTest : public QObject {
                    qPrintable(entry->text()));
     }
   }
+}
 
-  void EveryWindowIsWorkedByTheKeyboard_data() { AddForms(); }
-  void EveryWindowIsWorkedByTheKeyboard() {
-    QFETCH(int, number);
-    Bound bound(kForms[number], Furnisher());
+TEST_F(AccessTest, EveryWindowIsWorkedByTheKeyboard) {
+  for (const Maker make : kForms) {
+    Bound bound(make, Furnisher());
+    SCOPED_TRACE(bound.form->Name());
     // From cell to cell lead the arrow keys: one of them has to be reached.
     std::map<const QWidget*, bool> boards;
     for (const QWidget* widget : Inputs(bound.Window())) {
@@ -155,48 +151,35 @@ class AccessTest : public QObject {
       if (widget->property("cellule").toBool())
         boards[widget->parentWidget()] |= in_chain && !widget->isHidden();
       else
-        QVERIFY2(in_chain || ReadOnly(*widget), qPrintable(widget->objectName()));
+        EXPECT_TRUE(in_chain || ReadOnly(*widget)) << qPrintable(widget->objectName());
     }
     for (const auto& [board, reached] : boards) {
       const bool by_shortcut = bound.form->Main() && board->objectName() == QLatin1String("Dpt");
-      QVERIFY2(reached || by_shortcut, qPrintable(board->objectName()));
+      EXPECT_TRUE(reached || by_shortcut) << qPrintable(board->objectName());
     }
   }
+}
 
-  void TheTabChainIsTheEntryChain() {
-    Bound bound(Make<DDFM>);
-    auto& main = static_cast<DDFM&>(*bound.form);
-    const Control* chain[] = {
-        &main.Bande_A,    &main.Indicatif_A, &main.Depart_A,    &main.Locator_A, &main.Mode_A,     &main.Activ_A,
-        &main.Date_A,     &main.Debut_A,     &main.Fin_A,       &main.RSTE_A,    &main.RSTR_A,     &main.Prenom_A,
-        &main.QTH_A,      &main.Remarques_A, &main.Enregistrer, &main.Annuler,   &main.Editer,     &main.Effacer,
-        &main.Recherche,  &main.Gestion_QSL, &main.Exporter,    &main.Command1,  &main.Option1(1), &main.Option1(0),
-        &main.Bande_DDFM, &main.Carre_DDFM,  &main.Liste_QSO};
-    QStringList expected, found;
-    for (const Control* control : chain) expected << bound.bench.windows.WidgetOf(*control)->objectName();
-    const QWidget* first = bound.bench.windows.WidgetOf(main.Bande_A);
-    const QWidget* widget = first;
-    do {
-      if (expected.contains(widget->objectName())) found << widget->objectName();
-      QVERIFY(!widget->objectName().startsWith(QLatin1String("Dpt(")) || !(widget->focusPolicy() & Qt::TabFocus));
-      widget = widget->nextInFocusChain();
-    } while (widget != first);
-    QCOMPARE(found, expected);
-  }
+TEST_F(AccessTest, TheTabChainIsTheEntryChain) {
+  Bound bound(Make<DDFM>);
+  auto& main = static_cast<DDFM&>(*bound.form);
+  const Control* chain[] = {&main.Bande_A,    &main.Indicatif_A, &main.Depart_A,   &main.Locator_A,   &main.Mode_A,
+                            &main.Activ_A,    &main.Date_A,      &main.Debut_A,    &main.Fin_A,       &main.RSTE_A,
+                            &main.RSTR_A,     &main.Prenom_A,    &main.QTH_A,      &main.Remarques_A, &main.Enregistrer,
+                            &main.Annuler,    &main.Editer,      &main.Effacer,    &main.Recherche,   &main.Gestion_QSL,
+                            &main.Exporter,   &main.Command1,    &main.Option1(1), &main.Option1(0),  &main.Bande_DDFM,
+                            &main.Carre_DDFM, &main.Liste_QSO};
+  QStringList expected, found;
+  for (const Control* control : chain) expected << bound.bench.windows.WidgetOf(*control)->objectName();
+  const QWidget* first = bound.bench.windows.WidgetOf(main.Bande_A);
+  const QWidget* widget = first;
+  do {
+    if (expected.contains(widget->objectName())) found << widget->objectName();
+    EXPECT_TRUE(!widget->objectName().startsWith(QLatin1String("Dpt(")) || !(widget->focusPolicy() & Qt::TabFocus));
+    widget = widget->nextInFocusChain();
+  } while (widget != first);
+  EXPECT_EQ(found, expected);
+}
 
- private:
-  decltype(QtWindows::Furnish) Furnisher() {
-    return [this](const Form& form, QWidget& window) { return extras_.Furnish(form, window); };
-  }
-
-  ScratchFolder folder_;
-  QSettings memory_{QString::fromStdString(folder_.File("Fenetres.ini")), QSettings::IniFormat};
-  Appearance look_{memory_};
-  WindowExtras extras_{look_, memory_};
-};
-
-const InSuite<AccessTest> kAccessTest;
-
+}  // namespace
 }  // namespace vorelio::tests
-
-#include "access_test.moc"

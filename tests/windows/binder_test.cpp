@@ -9,7 +9,6 @@
 #include "windows/every_form.h"
 
 namespace vorelio::tests {
-
 namespace {
 
 class ArrayForm : public TestForm {
@@ -21,87 +20,78 @@ class ArrayForm : public TestForm {
   Button Orphelin{*this, "Orphelin", "Orphelin"};
 };
 
-}  // namespace
-
-class BinderTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void EveryWindowFitsItsForm_data() { AddForms(); }
-  void EveryWindowFitsItsForm() {
-    QFETCH(int, number);
-    Bound bound(kForms[number]);
+TEST(BinderTest, EveryWindowFitsItsForm) {
+  for (const Maker make : kForms) {
+    Bound bound(make);
+    SCOPED_TRACE(bound.form->Name());
     QStringList problems;
     for (const std::string& problem : bound.bench.windows.Problems(*bound.form)) problems << ToQt(problem);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    EXPECT_TRUE(problems.isEmpty()) << qPrintable(problems.join(u'\n'));
   }
+}
 
-  void EveryUiFileHasItsForm() {
-    UseResources();
-    QStringList files = QDir(QStringLiteral(":/ui")).entryList(), forms;
-    for (const Maker make : kForms) {
-      const Bound bound(make);
-      forms << ToQt(bound.form->Name()).toLower() + QStringLiteral(".ui");
-    }
-    files.sort();
-    forms.sort();
-    QCOMPARE(files, forms);
+TEST(BinderTest, EveryUiFileHasItsForm) {
+  UseResources();
+  QStringList files = QDir(QStringLiteral(":/ui")).entryList(), forms;
+  for (const Maker make : kForms) {
+    const Bound bound(make);
+    forms << ToQt(bound.form->Name()).toLower() + QStringLiteral(".ui");
   }
+  files.sort();
+  forms.sort();
+  EXPECT_EQ(files, forms);
+}
 
-  void ArraysAreFilledIntoTheirHolders() {
-    ControlBench<ArrayForm> bench;
-    auto* holder = bench.Add(new QWidget, "Dpt");
-    holder->setProperty("colonnes", 10);
-    holder->setAccessibleName(QStringLiteral("Case"));
-    bench.Add(new QRadioButton, "Option1_0");
-    auto* second = bench.Add(new QRadioButton, "Option1(1)");
-    bench.Add(new QLabel(QStringLiteral("&Date")), "titre_Date_A")->setBuddy(bench.Add(new QLineEdit, "Date_A"));
-    bench.Add(new QComboBox, "Inconnu");
-    bench.Add(new QLabel, "Label99");
-    bench.Bind();
-    auto& form = bench.form();
-    QCOMPARE(bench.binding->WidgetOf(form.Option1(1)), second);
-    QCOMPARE(bench.binding->WidgetOf(form.Date_A)->accessibleName(), QStringLiteral("Date"));
-    auto* cell = bench.binding->WidgetOf(form.Dpt(13));
-    QCOMPARE(cell->accessibleName(), QStringLiteral("Case 13"));
-    // The third cell of the second row, next to it and above it.
-    bench.programme.Recoit([&] { form.Dpt(12).SetText("12"); });
-    cell->setFocus();
-    QTest::keyClick(cell, Qt::Key_Left);
-    QCOMPARE(bench.programme.Focus(), &form.Dpt(12));
-    QTest::keyClick(bench.binding->WidgetOf(form.Dpt(12)), Qt::Key_Up);
-    QCOMPARE(bench.programme.Focus(), &form.Dpt(2));
-    QCOMPARE(bench.binding->Problems(),
-             (std::vector<std::string>{"Orphelin: no widget", "Inconnu: no control behind this QComboBox",
-                                       "Label99: no control behind this QLabel"}));
-  }
+TEST(BinderTest, ArraysAreFilledIntoTheirHolders) {
+  ControlBench<ArrayForm> bench;
+  auto* holder = bench.Add(new QWidget, "Dpt");
+  holder->setProperty("colonnes", 10);
+  holder->setAccessibleName(QStringLiteral("Case"));
+  bench.Add(new QRadioButton, "Option1_0");
+  auto* second = bench.Add(new QRadioButton, "Option1(1)");
+  bench.Add(new QLabel(QStringLiteral("&Date")), "titre_Date_A")->setBuddy(bench.Add(new QLineEdit, "Date_A"));
+  bench.Add(new QComboBox, "Inconnu");
+  bench.Add(new QLabel, "Label99");
+  bench.Bind();
+  auto& form = bench.form();
+  EXPECT_EQ(bench.binding->WidgetOf(form.Option1(1)), second);
+  EXPECT_EQ(bench.binding->WidgetOf(form.Date_A)->accessibleName(), QStringLiteral("Date"));
+  auto* cell = bench.binding->WidgetOf(form.Dpt(13));
+  EXPECT_EQ(cell->accessibleName(), QStringLiteral("Case 13"));
+  // The third cell of the second row, next to it and above it.
+  bench.programme.Recoit([&] { form.Dpt(12).SetText("12"); });
+  cell->setFocus();
+  QTest::keyClick(cell, Qt::Key_Left);
+  EXPECT_EQ(bench.programme.Focus(), &form.Dpt(12));
+  QTest::keyClick(bench.binding->WidgetOf(form.Dpt(12)), Qt::Key_Up);
+  EXPECT_EQ(bench.programme.Focus(), &form.Dpt(2));
+  EXPECT_EQ(bench.binding->Problems(),
+            (std::vector<std::string>{"Orphelin: no widget", "Inconnu: no control behind this QComboBox",
+                                      "Label99: no control behind this QLabel"}));
+}
 
-  void ATableNamesItsCellsByItsTitles() {
-    Bound bound(Make<Statistiques>);
-    auto& form = static_cast<Statistiques&>(*bound.form);
-    auto* far = bound.bench.windows.WidgetOf(form.Text11(88));
-    auto* near = qobject_cast<QLineEdit*>(bound.bench.windows.WidgetOf(form.Text11(13)));
-    QCOMPARE(far->accessibleName(), QStringLiteral("50 MHz, Sup a 1000 Km"));
-    QCOMPARE(near->accessibleName(), QStringLiteral("432 MHz, 100 a 200 Km"));
-    QVERIFY(near->alignment().testFlag(Qt::AlignRight));
-    // To the left of the first stand the titles.
-    auto* first = bound.bench.windows.WidgetOf(form.Text11(78));
-    bound.bench.programme.Recoit([&] { form.Text11(78).SetFocus(); });
-    QTest::keyClick(first, Qt::Key_Left);
-    QCOMPARE(bound.bench.programme.Focus(), &form.Text11(78));
-  }
+TEST(BinderTest, ATableNamesItsCellsByItsTitles) {
+  Bound bound(Make<Statistiques>);
+  auto& form = static_cast<Statistiques&>(*bound.form);
+  auto* far = bound.bench.windows.WidgetOf(form.Text11(88));
+  auto* near = qobject_cast<QLineEdit*>(bound.bench.windows.WidgetOf(form.Text11(13)));
+  EXPECT_EQ(far->accessibleName(), QStringLiteral("50 MHz, Sup a 1000 Km"));
+  EXPECT_EQ(near->accessibleName(), QStringLiteral("432 MHz, 100 a 200 Km"));
+  EXPECT_TRUE(near->alignment().testFlag(Qt::AlignRight));
+  // To the left of the first stand the titles.
+  auto* first = bound.bench.windows.WidgetOf(form.Text11(78));
+  bound.bench.programme.Recoit([&] { form.Text11(78).SetFocus(); });
+  QTest::keyClick(first, Qt::Key_Left);
+  EXPECT_EQ(bound.bench.programme.Focus(), &form.Text11(78));
+}
 
-  void AWidgetOfAnotherKindIsAProblem() {
-    ControlBench<ArrayForm> bench;
-    bench.Add(new QComboBox, "Date_A");
-    bench.Bind();
-    const auto& problems = bench.binding->Problems();
-    QVERIFY(std::find(problems.begin(), problems.end(), "Date_A: the widget is a QComboBox") != problems.end());
-  }
-};
+TEST(BinderTest, AWidgetOfAnotherKindIsAProblem) {
+  ControlBench<ArrayForm> bench;
+  bench.Add(new QComboBox, "Date_A");
+  bench.Bind();
+  const auto& problems = bench.binding->Problems();
+  EXPECT_TRUE(std::find(problems.begin(), problems.end(), "Date_A: the widget is a QComboBox") != problems.end());
+}
 
-const InSuite<BinderTest> kBinderTest;
-
+}  // namespace
 }  // namespace vorelio::tests
-
-#include "binder_test.moc"

@@ -10,7 +10,6 @@
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {
-
 namespace {
 
 class CaptionForm : public TestForm {
@@ -33,21 +32,16 @@ class CaptionForm : public TestForm {
 
 struct CaptionBench : ControlBench<CaptionForm> {
   CaptionBench() {
-    button = Add(new QPushButton(QStringLiteral("QSO Sui&vant")), "Bouton");
-    one = Add(new QRadioButton(QStringLiteral("Dpt")), "Un");
-    two = Add(new QRadioButton, "Deux");
-    tick = Add(new QCheckBox, "Coche");
-    legend = Add(new CaptionLabel, "Legende");
+    Add(new QRadioButton, "Un");
     legend->setProperty("rogne", true);
-    frame = Add(new QGroupBox, "Cadre");
     Bind();
   }
 
-  QPushButton* button;
-  QRadioButton *one, *two;
-  QCheckBox* tick;
-  CaptionLabel* legend;
-  QGroupBox* frame;
+  QPushButton* button = Add(new QPushButton(QStringLiteral("QSO Sui&vant")), "Bouton");
+  QRadioButton* two = Add(new QRadioButton, "Deux");
+  QCheckBox* tick = Add(new QCheckBox, "Coche");
+  CaptionLabel* legend = Add(new CaptionLabel, "Legende");
+  QGroupBox* frame = Add(new QGroupBox, "Cadre");
 };
 
 class MenuForm : public TestForm {
@@ -58,89 +52,77 @@ class MenuForm : public TestForm {
   MenuItem Seule{*this, "Seule", "Seule"};
 };
 
+using CaptionTest = On<CaptionBench>;
+using MenuTest = On<ControlBench<MenuForm>>;
+
+TEST_F(CaptionTest, MnemonicsSurvive) {
+  EXPECT_EQ(button->text(), QStringLiteral("QSO Sui&vant"));
+  form().Bouton.SetCaption("Valider & fin");
+  EXPECT_EQ(button->text(), QStringLiteral("Valider && fin"));
+  form().Bouton.SetCaption("QSO Suivant");
+  EXPECT_EQ(button->text(), QStringLiteral("QSO Sui&vant"));
+}
+
+TEST_F(CaptionTest, CaptionsComeFromTheModel) {
+  EXPECT_EQ(two->text(), QStringLiteral("Carré locator"));
+  EXPECT_EQ(frame->title(), QStringLiteral("12 Départements sur 144 Mhz"));
+  EXPECT_EQ(legend->text(), QStringLiteral("Dpt Contacté"));
+  legend->setProperty("rogne", false);
+  form().Legende.SetCaption("  <b>QSL</b>");
+  EXPECT_EQ(legend->text(), QStringLiteral("  <b>QSL</b>"));
+  EXPECT_EQ(legend->textFormat(), Qt::PlainText);
+  form().Legende.SetColour(0x00FFFF);
+  EXPECT_EQ(legend->palette().color(QPalette::Window), QColor(Qt::yellow));
+  EXPECT_EQ(legend->palette().color(QPalette::WindowText), QColor(Qt::black));
+}
+
+TEST_F(CaptionTest, ARefusedClickLeavesTheTickAsItWas) {
+  form().Hide();
+  tick->click();
+  EXPECT_TRUE(!tick->isChecked());
+  form().Show();
+  tick->click();
+  EXPECT_TRUE(tick->isChecked() && form().Coche.Checked());
+  EXPECT_EQ(form().clicks, "C");
+}
+
+TEST_F(CaptionTest, EnterPressesAButton) {
+  button->setFocus();
+  QTest::keyClick(button, Qt::Key_Return);
+  QTest::keyClick(button, Qt::Key_Space);
+  EXPECT_EQ(form().clicks, "BB");
+}
+
+TEST_F(MenuTest, AMenuOfHiddenEntriesIsHidden) {
+  auto* main = new QMainWindow(&window);
+  QMenu* menu = main->menuBar()->addMenu(QStringLiteral("Options"));
+  QMenu* inner = menu->addMenu(QStringLiteral("Date"));
+  const auto add = [main](QMenu* to, const char* name, const char* words) {
+    auto* action = new QAction(QString::fromLatin1(words), main);
+    action->setObjectName(QString::fromLatin1(name));
+    to->addAction(action);
+    return action;
+  };
+  QAction* yes = add(inner, "Oui", "&Oui");
+  QAction* no = add(inner, "Non", "&Non");
+  QAction* lone = add(menu, "Seule", "&Seule");
+  binding = std::make_unique<Binding>(form(), *main, gate);
+  EXPECT_TRUE(yes->isChecked() && !no->isChecked());
+  EXPECT_EQ(yes->text(), QStringLiteral("&Oui"));
+  EXPECT_EQ(no->text(), QStringLiteral("Non && jamais"));
+  form().Oui.SetVisible(false);
+  EXPECT_TRUE(inner->menuAction()->isVisible());
+  form().Non.SetVisible(false);
+  EXPECT_TRUE(!inner->menuAction()->isVisible() && menu->menuAction()->isVisible());
+  form().Seule.SetVisible(false);
+  EXPECT_TRUE(!menu->menuAction()->isVisible());
+  form().Non.SetVisible(true);
+  EXPECT_TRUE(inner->menuAction()->isVisible() && menu->menuAction()->isVisible());
+  // Qt ticks an entry by itself; the model hasn't.
+  yes->trigger();
+  EXPECT_TRUE(yes->isChecked());
+  EXPECT_TRUE(!lone->isVisible());
+}
+
 }  // namespace
-
-class CaptionTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void MnemonicsSurvive() {
-    CaptionBench bench;
-    QCOMPARE(bench.button->text(), QStringLiteral("QSO Sui&vant"));
-    bench.form().Bouton.SetCaption("Valider & fin");
-    QCOMPARE(bench.button->text(), QStringLiteral("Valider && fin"));
-    bench.form().Bouton.SetCaption("QSO Suivant");
-    QCOMPARE(bench.button->text(), QStringLiteral("QSO Sui&vant"));
-  }
-
-  void CaptionsComeFromTheModel() {
-    CaptionBench bench;
-    QCOMPARE(bench.two->text(), QStringLiteral("Carré locator"));
-    QCOMPARE(bench.frame->title(), QStringLiteral("12 Départements sur 144 Mhz"));
-    QCOMPARE(bench.legend->text(), QStringLiteral("Dpt Contacté"));
-    bench.legend->setProperty("rogne", false);
-    bench.form().Legende.SetCaption("  <b>QSL</b>");
-    QCOMPARE(bench.legend->text(), QStringLiteral("  <b>QSL</b>"));
-    QCOMPARE(bench.legend->textFormat(), Qt::PlainText);
-    bench.form().Legende.SetColour(0x00FFFF);
-    QCOMPARE(bench.legend->palette().color(QPalette::Window), QColor(Qt::yellow));
-    QCOMPARE(bench.legend->palette().color(QPalette::WindowText), QColor(Qt::black));
-  }
-
-  void ARefusedClickLeavesTheTickAsItWas() {
-    CaptionBench bench;
-    bench.form().Hide();
-    bench.tick->click();
-    QVERIFY(!bench.tick->isChecked());
-    bench.form().Show();
-    bench.tick->click();
-    QVERIFY(bench.tick->isChecked() && bench.form().Coche.Checked());
-    QCOMPARE(bench.form().clicks, "C");
-  }
-
-  void EnterPressesAButton() {
-    CaptionBench bench;
-    bench.button->setFocus();
-    QTest::keyClick(bench.button, Qt::Key_Return);
-    QTest::keyClick(bench.button, Qt::Key_Space);
-    QCOMPARE(bench.form().clicks, "BB");
-  }
-
-  void AMenuOfHiddenEntriesIsHidden() {
-    ControlBench<MenuForm> bench;
-    auto* main = new QMainWindow(&bench.window);
-    QMenu* menu = main->menuBar()->addMenu(QStringLiteral("Options"));
-    QMenu* inner = menu->addMenu(QStringLiteral("Date"));
-    const auto add = [main](QMenu* to, const char* name, const char* words) {
-      auto* action = new QAction(QString::fromLatin1(words), main);
-      action->setObjectName(QString::fromLatin1(name));
-      to->addAction(action);
-      return action;
-    };
-    QAction* yes = add(inner, "Oui", "&Oui");
-    QAction* no = add(inner, "Non", "&Non");
-    QAction* lone = add(menu, "Seule", "&Seule");
-    bench.binding = std::make_unique<Binding>(bench.form(), *main, bench.gate);
-    QVERIFY(yes->isChecked() && !no->isChecked());
-    QCOMPARE(yes->text(), QStringLiteral("&Oui"));
-    QCOMPARE(no->text(), QStringLiteral("Non && jamais"));
-    bench.form().Oui.SetVisible(false);
-    QVERIFY(inner->menuAction()->isVisible());
-    bench.form().Non.SetVisible(false);
-    QVERIFY(!inner->menuAction()->isVisible() && menu->menuAction()->isVisible());
-    bench.form().Seule.SetVisible(false);
-    QVERIFY(!menu->menuAction()->isVisible());
-    bench.form().Non.SetVisible(true);
-    QVERIFY(inner->menuAction()->isVisible() && menu->menuAction()->isVisible());
-    // Qt ticks an entry by itself; the model hasn't.
-    yes->trigger();
-    QVERIFY(yes->isChecked());
-    QVERIFY(!lone->isVisible());
-  }
-};
-
-const InSuite<CaptionTest> kCaptionTest;
-
 }  // namespace vorelio::tests
-
-#include "caption_test.moc"

@@ -9,7 +9,6 @@
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {
-
 namespace {
 
 class ComboForm : public TestForm {
@@ -31,127 +30,104 @@ class ComboForm : public TestForm {
 };
 
 struct ComboBench : ControlBench<ComboForm> {
-  ComboBench() {
-    open = Add(new QComboBox, "Libre");
-    choice = Add(new QComboBox, "Choix");
-    Bind();
-  }
+  ComboBench() { Bind(); }
 
   void Pick(QComboBox* combo, int row) { Q_EMIT combo->activated(row); }
 
-  QComboBox* open;
-  QComboBox* choice;
+  QComboBox* open = Add(new QComboBox, "Libre");
+  QComboBox* choice = Add(new QComboBox, "Choix");
 };
+
+using ComboTest = On<ComboBench>;
+
+TEST_F(ComboTest, ATextWithoutARowIsShown) {
+  EXPECT_EQ(open->currentText(), QStringLiteral("144 MHz"));
+  EXPECT_EQ(choice->currentIndex(), -1);
+  EXPECT_EQ(choice->placeholderText(), QStringLiteral("JN"));
+  EXPECT_EQ(choice->count(), 3);
+}
+
+TEST_F(ComboTest, TheSameRowAgainIsAClick) {
+  for (int i = 0; i < 3; ++i) Pick(choice, 1);
+  EXPECT_EQ(form().clicks, (std::vector<int>{1, 1, 1}));
+  gate.Refresh();
+  EXPECT_EQ(choice->currentText(), QStringLiteral("144 Mhz"));
+}
+
+TEST_F(ComboTest, ArrowKeysAreClicks) {
+  open->setFocus();
+  QTest::keyClick(open, Qt::Key_Down);
+  QTest::keyClick(open, Qt::Key_Down);
+  QTest::keyClick(open, Qt::Key_Up);
+  EXPECT_EQ(form().clicks, (std::vector<int>{0, 1, 0}));
+  EXPECT_EQ(open->currentText(), QStringLiteral("50 Mhz"));
+  EXPECT_TRUE(form().keys.empty());
+}
+
+TEST_F(ComboTest, TheWheelLeavesItAlone) {
+  choice->setFocus();
+  QWheelEvent turn(QPointF(5, 5), choice->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(choice, &turn);
+  EXPECT_TRUE(form().clicks.empty());
+  EXPECT_TRUE(!turn.isAccepted());
+}
+
+TEST_F(ComboTest, TypingReplacesAChosenTextAndJoinsATypedOne) {
+  form().Libre.SetListIndex(0);
+  gate.Refresh();
+  open->setFocus();
+  QTest::keyClicks(open, QStringLiteral("FT8"));
+  EXPECT_EQ(form().Libre.Text(), "FT8");
+  EXPECT_EQ(open->currentText(), QStringLiteral("FT8"));
+  EXPECT_EQ(form().keys, (std::vector<int>{'F', 'T', '8'}));
+  EXPECT_EQ(form().Libre.ListIndex(), -1);
+}
+
+TEST_F(ComboTest, ACharacterGoesToTheCaret) {
+  open->setFocus();
+  QTest::keyClicks(open, QStringLiteral("PK31"));
+  QTest::keyClick(open, Qt::Key_Home);
+  QTest::keyClick(open, Qt::Key_Right);
+  QTest::keyClicks(open, QStringLiteral("S"));
+  EXPECT_EQ(form().Libre.Text(), "PSK31");
+  QTest::keyClick(open, Qt::Key_Delete);
+  EXPECT_EQ(form().Libre.Text(), "PS31");
+  EXPECT_EQ(open->currentText(), QStringLiteral("PS31"));
+}
+
+TEST_F(ComboTest, EnterIsAKeyAndOpensNothing) {
+  for (QComboBox* combo : {open, choice}) {
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Return);
+    EXPECT_TRUE(!combo->view()->isVisible());
+  }
+  EXPECT_EQ(form().keys, (std::vector<int>{13, 13}));
+  EXPECT_EQ(open->count(), 3);
+}
+
+TEST_F(ComboTest, LettersFindARowOfAChoice) {
+  choice->setFocus();
+  QTest::keyClicks(choice, QStringLiteral("43"));
+  EXPECT_EQ(form().Choix.ListIndex(), 2);
+  EXPECT_EQ(form().clicks, (std::vector<int>{2, 2}));
+}
+
+TEST_F(ComboTest, AForeignCharacterIsRefused) {
+  open->setFocus();
+  QTest::sendKeyEvent(QTest::Click, open, Qt::Key_unknown, QStringLiteral("ж"), {});
+  EXPECT_EQ(open->currentText(), QStringLiteral("144 MHz"));
+  EXPECT_EQ(gate.notices.size(), 1);
+}
+
+TEST_F(ComboTest, ColouredBoxesKeepBlackText) {
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(ThemePalette(true));
+  form().Libre.SetColour(kFait);
+  const QPalette palette = open->lineEdit()->palette();
+  EXPECT_EQ(open->palette().color(QPalette::Base), QColor(0xFF, 0xFF, 0xC0));
+  EXPECT_EQ(palette.color(QPalette::Text), QColor(Qt::black));
+  QApplication::setPalette(before);
+}
 
 }  // namespace
-
-class ComboTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void ATextWithoutARowIsShown() {
-    ComboBench bench;
-    QCOMPARE(bench.open->currentText(), QStringLiteral("144 MHz"));
-    QCOMPARE(bench.choice->currentIndex(), -1);
-    QCOMPARE(bench.choice->placeholderText(), QStringLiteral("JN"));
-    QCOMPARE(bench.choice->count(), 3);
-  }
-
-  void TheSameRowAgainIsAClick() {
-    ComboBench bench;
-    for (int i = 0; i < 3; ++i) bench.Pick(bench.choice, 1);
-    QCOMPARE(bench.form().clicks, (std::vector<int>{1, 1, 1}));
-    bench.gate.Refresh();
-    QCOMPARE(bench.choice->currentText(), QStringLiteral("144 Mhz"));
-  }
-
-  void ArrowKeysAreClicks() {
-    ComboBench bench;
-    bench.open->setFocus();
-    QTest::keyClick(bench.open, Qt::Key_Down);
-    QTest::keyClick(bench.open, Qt::Key_Down);
-    QTest::keyClick(bench.open, Qt::Key_Up);
-    QCOMPARE(bench.form().clicks, (std::vector<int>{0, 1, 0}));
-    QCOMPARE(bench.open->currentText(), QStringLiteral("50 Mhz"));
-    QVERIFY(bench.form().keys.empty());
-  }
-
-  void TheWheelLeavesItAlone() {
-    ComboBench bench;
-    bench.choice->setFocus();
-    QWheelEvent turn(QPointF(5, 5), bench.choice->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
-                     false);
-    QApplication::sendEvent(bench.choice, &turn);
-    QVERIFY(bench.form().clicks.empty());
-    QVERIFY(!turn.isAccepted());
-  }
-
-  void TypingReplacesAChosenTextAndJoinsATypedOne() {
-    ComboBench bench;
-    bench.form().Libre.SetListIndex(0);
-    bench.gate.Refresh();
-    bench.open->setFocus();
-    QTest::keyClicks(bench.open, QStringLiteral("FT8"));
-    QCOMPARE(bench.form().Libre.Text(), "FT8");
-    QCOMPARE(bench.open->currentText(), QStringLiteral("FT8"));
-    QCOMPARE(bench.form().keys, (std::vector<int>{'F', 'T', '8'}));
-    QCOMPARE(bench.form().Libre.ListIndex(), -1);
-  }
-
-  void ACharacterGoesToTheCaret() {
-    ComboBench bench;
-    bench.open->setFocus();
-    QTest::keyClicks(bench.open, QStringLiteral("PK31"));
-    QTest::keyClick(bench.open, Qt::Key_Home);
-    QTest::keyClick(bench.open, Qt::Key_Right);
-    QTest::keyClicks(bench.open, QStringLiteral("S"));
-    QCOMPARE(bench.form().Libre.Text(), "PSK31");
-    QTest::keyClick(bench.open, Qt::Key_Delete);
-    QCOMPARE(bench.form().Libre.Text(), "PS31");
-    QCOMPARE(bench.open->currentText(), QStringLiteral("PS31"));
-  }
-
-  void EnterIsAKeyAndOpensNothing() {
-    ComboBench bench;
-    for (QComboBox* combo : {bench.open, bench.choice}) {
-      combo->setFocus();
-      QTest::keyClick(combo, Qt::Key_Return);
-      QVERIFY(!combo->view()->isVisible());
-    }
-    QCOMPARE(bench.form().keys, (std::vector<int>{13, 13}));
-    QCOMPARE(bench.open->count(), 3);
-  }
-
-  void LettersFindARowOfAChoice() {
-    ComboBench bench;
-    bench.choice->setFocus();
-    QTest::keyClicks(bench.choice, QStringLiteral("43"));
-    QCOMPARE(bench.form().Choix.ListIndex(), 2);
-    QCOMPARE(bench.form().clicks, (std::vector<int>{2, 2}));
-  }
-
-  void AForeignCharacterIsRefused() {
-    ComboBench bench;
-    bench.open->setFocus();
-    QTest::sendKeyEvent(QTest::Click, bench.open, Qt::Key_unknown, QStringLiteral("ж"), {});
-    QCOMPARE(bench.open->currentText(), QStringLiteral("144 MHz"));
-    QCOMPARE(bench.gate.notices.size(), 1);
-  }
-
-  void ColouredBoxesKeepBlackText() {
-    const QPalette before = QApplication::palette();
-    QApplication::setPalette(ThemePalette(true));
-    ComboBench bench;
-    bench.form().Libre.SetColour(kFait);
-    const QPalette palette = bench.open->lineEdit()->palette();
-    QCOMPARE(bench.open->palette().color(QPalette::Base), QColor(0xFF, 0xFF, 0xC0));
-    QCOMPARE(palette.color(QPalette::Text), QColor(Qt::black));
-    QApplication::setPalette(before);
-  }
-};
-
-const InSuite<ComboTest> kComboTest;
-
 }  // namespace vorelio::tests
-
-#include "combo_test.moc"

@@ -44,48 +44,17 @@ std::unique_ptr<Form> Make(Programme& programme) {
   return std::make_unique<F>(programme);
 }
 
+template <typename... F>
+inline constexpr Maker kMakersOf[] = {Make<F>...};
+
 /// Every window of the program. A new one that isn't added here fails the test on the .ui files.
-inline constexpr Maker kForms[] = {Make<DDFM>,
-                                   Make<Chargement>,
-                                   Make<Station>,
-                                   Make<Gestion_Erreur>,
-                                   Make<Ajout_Prefixe>,
-                                   Make<Progression>,
-                                   Make<Statistique_Prefixe>,
-                                   Make<Statistique_QSO>,
-                                   Make<Statistiques>,
-                                   Make<Statistique_DFCF>,
-                                   Make<Recherche_Indicatif>,
-                                   Make<Print_Log>,
-                                   Make<Print_Activite>,
-                                   Make<Affiche_Dpt>,
-                                   Make<Fichier_Nomenclature>,
-                                   Make<Ajout_Activite>,
-                                   Make<Delta_QSO>,
-                                   Make<Exporter_QSO>,
-                                   Make<Export_Adif>,
-                                   Make<Restoration_Activite>,
-                                   Make<QSL>,
-                                   Make<Multi_QSL>,
-                                   Make<Select_QSO>,
-                                   Make<Etiquettes>,
-                                   Make<Notes>,
-                                   Make<Cluster>,
-                                   Make<Memoire_CL>,
-                                   Make<Adresse_Cluster>,
-                                   Make<Ports_Serie>,
-                                   Make<Carte>,
-                                   Make<Carte_Acti>,
-                                   Make<Select_Locator>,
-                                   Make<Carte_IM>,
-                                   Make<Carte_IN>,
-                                   Make<Carte_IO>,
-                                   Make<Carte_JM>,
-                                   Make<Carte_JN>,
-                                   Make<Carte_JO>,
-                                   Make<Carte_KM>,
-                                   Make<Carte_KN>,
-                                   Make<Carte_KO>};
+inline constexpr const auto& kForms =
+    kMakersOf<DDFM, Chargement, Station, Gestion_Erreur, Ajout_Prefixe, Progression, Statistique_Prefixe,
+              Statistique_QSO, Statistiques, Statistique_DFCF, Recherche_Indicatif, Print_Log, Print_Activite,
+              Affiche_Dpt, Fichier_Nomenclature, Ajout_Activite, Delta_QSO, Exporter_QSO, Export_Adif,
+              Restoration_Activite, QSL, Multi_QSL, Select_QSO, Etiquettes, Notes, Cluster, Memoire_CL, Adresse_Cluster,
+              Ports_Serie, Carte, Carte_Acti, Select_Locator, Carte_IM, Carte_IN, Carte_IO, Carte_JM, Carte_JN,
+              Carte_JO, Carte_KM, Carte_KN, Carte_KO>;
 
 /// A form with its window, without its being loaded.
 struct Bound {
@@ -101,8 +70,5 @@ struct Bound {
   WindowsBench bench;
   std::unique_ptr<Form> form;
 };
-
-/// A row for each of them, with its `number`.
-void AddForms();
 
 }  // namespace vorelio::tests

@@ -10,7 +10,6 @@
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {
-
 namespace {
 
 /// Where the middle of a cell is on the image, in pixels of its plain size.
@@ -22,89 +21,77 @@ QPointF OnImage(const PictureBoard& board, const QSize& plain, const QWidget& ce
 
 QImage Delivered(const QString& file) { return QImage(QStringLiteral(VORELIO_DATA_DIR "/") + file); }
 
-}  // namespace
+using PictureTest = On<WindowsBench>;
 
-class PictureTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void CellsKeepTheirPlaceAsTheWindowGrows() {
-    WindowsBench bench;
-    Carte& map = bench.Open<Carte>();
-    auto* window = bench.windows.WindowOf(map);
-    auto* board = dynamic_cast<PictureBoard*>(bench.windows.WidgetOf(map.Picture1));
-    QVERIFY(board);
-    for (const QSize size : {QSize(760, 560), QSize(1300, 640), QSize(900, 1000)}) {
-      window->resize(size);
-      QCoreApplication::processEvents();
-      const auto* cell = bench.windows.WidgetOf(map.Dep(57));
-      const QPointF off = OnImage(*board, {475, 510}, *cell) - QPointF(384 + 12.5, 104 + 10);
-      QVERIFY2(off.manhattanLength() < 1.5, qPrintable(QStringLiteral("%1 %2").arg(off.x()).arg(off.y())));
-    }
+TEST_F(PictureTest, CellsKeepTheirPlaceAsTheWindowGrows) {
+  Carte& map = Open<Carte>();
+  auto* window = windows.WindowOf(map);
+  auto* board = dynamic_cast<PictureBoard*>(windows.WidgetOf(map.Picture1));
+  ASSERT_TRUE(board);
+  for (const QSize size : {QSize(760, 560), QSize(1300, 640), QSize(900, 1000)}) {
+    window->resize(size);
+    QCoreApplication::processEvents();
+    const auto* cell = windows.WidgetOf(map.Dep(57));
+    const QPointF off = OnImage(*board, {475, 510}, *cell) - QPointF(384 + 12.5, 104 + 10);
+    EXPECT_TRUE(off.manhattanLength() < 1.5) << qPrintable(QStringLiteral("%1 %2").arg(off.x()).arg(off.y()));
   }
+}
 
-  void ArrowsLeadToTheNearestCell() {
-    WindowsBench bench;
-    // The main window comes with the first map that is painted, and would come to the front.
-    bench.Open<DDFM>();
-    Carte& map = bench.Open<Carte>();
-    QVERIFY(QTest::qWaitForWindowActive(bench.windows.WindowOf(map)));
-    auto* cell = bench.windows.WidgetOf(map.Dep(55));
-    cell->setFocus(Qt::MouseFocusReason);
-    QTest::keyClick(cell, Qt::Key_Right);
-    QCOMPARE(bench.programme.Focus(), &map.Dep(57));
-    QTest::keyClick(bench.windows.WidgetOf(map.Dep(57)), Qt::Key_Down);
-    QCOMPARE(bench.programme.Focus(), &map.Dep(54));
-  }
+TEST_F(PictureTest, ArrowsLeadToTheNearestCell) {
+  // The main window comes with the first map that is painted, and would come to the front.
+  Open<DDFM>();
+  Carte& map = Open<Carte>();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(windows.WindowOf(map)));
+  auto* cell = windows.WidgetOf(map.Dep(55));
+  cell->setFocus(Qt::MouseFocusReason);
+  QTest::keyClick(cell, Qt::Key_Right);
+  EXPECT_EQ(programme.Focus(), &map.Dep(57));
+  QTest::keyClick(windows.WidgetOf(map.Dep(57)), Qt::Key_Down);
+  EXPECT_EQ(programme.Focus(), &map.Dep(54));
+}
 
-  void EveryMapHasItsImageInBothSizes() {
-    WindowsBench bench;
-    QStringList files;
-    const auto check = [&](const Picture& picture) {
-      const QString file = ToQt(picture.File());
-      const QSize plain(picture.Width(), picture.Height());
-      QCOMPARE(Delivered(file).size(), plain);
-      QCOMPARE(Delivered(QString(file).replace(QStringLiteral(".jpg"), QStringLiteral("@2x.jpg"))).size(), plain * 2);
-      files << file;
-    };
-    bench.programme.Recoit([&] {
-      check(bench.programme.Fenetre<Carte>().Picture1);
-      check(bench.programme.Fenetre<Carte_Acti>().Picture1);
-      for (const auto field : kChamps_Cartes) check(Carte_Du_Champ(bench.programme, field)->Picture1);
+TEST_F(PictureTest, EveryMapHasItsImageInBothSizes) {
+  QStringList files;
+  const auto check = [&](const Picture& picture) {
+    const QString file = ToQt(picture.File());
+    const QSize plain(picture.Width(), picture.Height());
+    EXPECT_EQ(Delivered(file).size(), plain);
+    EXPECT_EQ(Delivered(QString(file).replace(QStringLiteral(".jpg"), QStringLiteral("@2x.jpg"))).size(), plain * 2);
+    files << file;
+  };
+  programme.Recoit([&] {
+    check(programme.Fenetre<Carte>().Picture1);
+    check(programme.Fenetre<Carte_Acti>().Picture1);
+    for (const auto field : kChamps_Cartes) check(Carte_Du_Champ(programme, field)->Picture1);
+  });
+  files.removeDuplicates();
+  EXPECT_EQ(files.size(), 10);
+}
+
+TEST(PictureBoardTest, TheSizeIsChosenByTheScale) {
+  const QStringList wanted = {QStringLiteral("a/b.jpg"), QStringLiteral("a/b@2x.jpg")};
+  for (const int scale : {1, 2}) {
+    PictureBoard board(nullptr);
+    QStringList read;
+    board.SetPicture(wanted[0], {40, 30}, [&read](const QString& file) {
+      read << file;
+      QImage image(40, 30, QImage::Format_RGB32);
+      image.fill(Qt::red);
+      return image;
     });
-    files.removeDuplicates();
-    QCOMPARE(files.size(), 10);
+    board.resize(QSize(40, 30) * scale);
+    EXPECT_EQ(board.grab().toImage().pixelColor(20, 15), QColor(Qt::red));
+    EXPECT_EQ(read, QStringList(wanted[scale - 1]));
   }
+}
 
-  void TheSizeIsChosenByTheScale() {
-    const QStringList wanted = {QStringLiteral("a/b.jpg"), QStringLiteral("a/b@2x.jpg")};
-    for (const int scale : {1, 2}) {
-      PictureBoard board(nullptr);
-      QStringList read;
-      board.SetPicture(wanted[0], {40, 30}, [&read](const QString& file) {
-        read << file;
-        QImage image(40, 30, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        return image;
-      });
-      board.resize(QSize(40, 30) * scale);
-      QCOMPARE(board.grab().toImage().pixelColor(20, 15), QColor(Qt::red));
-      QCOMPARE(read, QStringList(wanted[scale - 1]));
-    }
-  }
+TEST_F(PictureTest, AMissingImageLeavesTheCells) {
+  Carte_JN& map = Open<Carte_JN>();
+  const QImage seen = windows.WidgetOf(map.Picture1)->grab().toImage();
+  EXPECT_TRUE(!seen.isNull());
+  EXPECT_TRUE(windows.WidgetOf(map.Dep(57))->isVisible());
+  EXPECT_EQ(programme.Erreur_Fatale(), 0);
+}
 
-  void AMissingImageLeavesTheCells() {
-    WindowsBench bench;
-    Carte_JN& map = bench.Open<Carte_JN>();
-    const QImage seen = bench.windows.WidgetOf(map.Picture1)->grab().toImage();
-    QVERIFY(!seen.isNull());
-    QVERIFY(bench.windows.WidgetOf(map.Dep(57))->isVisible());
-    QCOMPARE(bench.programme.Erreur_Fatale(), 0);
-  }
-};
-
-const InSuite<PictureTest> kPictureTest;
-
+}  // namespace
 }  // namespace vorelio::tests
-
-#include "picture_test.moc"

@@ -7,7 +7,6 @@
 #include <QRegularExpression>
 #include <algorithm>
 
-#include "core/errors.h"
 #include "core/log_line.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
@@ -15,10 +14,11 @@
 #include "platform/qt/qt_text.h"
 #include "printing/labels_window.h"
 #include "printing/select_qso_window.h"
+#include "support/contact.h"
+#include "support/error_of.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {
-
 namespace {
 
 constexpr double kPoint_mm = 25.4 / 72;
@@ -105,170 +105,138 @@ const Sheet kSheets[] = {
     {{99.1, 33.9}, 4.65, 12.9, 2.5}, {{99.1, 34}, 4.65, 12.5, 2.5}, {{105, 37}, 0, 0.5, 0}, {{105, 35}, 0, 8.5, 0}};
 
 /// Contacts whose texts are short and long, up to the full width of their fields.
-std::string Contact(int n) {
-  Champs_QSO qso;
-  qso.Date_A = "12/05/03";
-  qso.Indicatif_A = std::string("F9A") + static_cast<char>('A' + n) + std::string("/MM/QRP/A").substr(0, n % 8);
-  qso.Debut_A = "14:" + Deux_Chiffres(n);
-  qso.Bande_A = n % 2 ? "1.8 Mhz" : "24 Ghz";
-  qso.Mode_A = n % 3 ? "CW" : "PACKET";
-  qso.RSTR_A = n % 5 ? "59" : "59+40 dB";
-  qso.QTH_A = n % 4 ? "DFCF 33012" : "DFCF 3301234";
-  return Construit_Ligne(qso);
+std::string Line(int n) {
+  const std::string call = std::string("F9A") + static_cast<char>('A' + n) + std::string("/MM/QRP/A").substr(0, n % 8);
+  return Construit_Ligne(
+      Contact({"12/05/03", call, "14:" + Deux_Chiffres(n), "", "", "", n % 2 ? "1.8 Mhz" : "24 Ghz",
+               n % 3 ? "CW" : "PACKET", "", n % 5 ? "59" : "59+40 dB", n % 4 ? "DFCF 33012" : "DFCF 3301234"}));
 }
 
 int CountWords(const std::string& text) { return static_cast<int>(ToQt(text).split(u' ', Qt::SkipEmptyParts).size()); }
 
-#define VERIFY_ERROR(action, number)          \
-  do {                                        \
-    int found = 0;                            \
-    try {                                     \
-      action;                                 \
-    } catch (const Erreur_Execution& error) { \
-      found = error.Numero();                 \
-    }                                         \
-    QCOMPARE(found, number);                  \
-  } while (false)
+using PrinterTest = On<Paper>;
 
-}  // namespace
+class Labels : public PrinterTest, public testing::WithParamInterface<std::tuple<std::size_t, int>> {};
+INSTANTIATE_TEST_SUITE_P(SheetsAndCounts, Labels,
+                         testing::Combine(testing::Range<std::size_t>(0, 4), testing::Values(16, 17)));
 
-class PrinterTest : public QObject {
-  Q_OBJECT
+TEST_P(Labels, StayOnTheirSheets) {
+  const auto [sheet, count] = GetParam();
+  printer.answer = File("Etiquettes.pdf");
+  std::string log;
+  std::vector<std::string> contacts;
+  for (int n = 0; n < count; ++n) log += contacts.emplace_back(Line(n)) + "\r\n";
+  disk.WriteAll(programme.Chemin_Log("F9QZX"), log);
+  Programme run({settings, messages, dialogs, clock, windows, disk, printer, devices.serial, devices.pages,
+                 devices.sounds, devices.clipboard, devices.documents, folder.Path()});
+  run.contexte.Station_Indicatif = "F9QZX_P";
+  disk.Copy(programme.Chemin_Log("F9QZX"), run.Chemin_Log("F9QZX_P"));
+  windows.Deliver(run, [&] {
+    auto& selection = run.Fenetre<Select_QSO>();
+    selection.Show();
+    while (selection.Liste_QSO.Count() > 0) selection.Liste_QSO.UserSelect(0);
+    auto& labels = run.Fenetre<Etiquettes>();
+    labels.Show();
+    labels.RxTx.UserText("FT-847 + ampli.", 0);
+    labels.Antenne.UserText("2 x 9 element", 0);
+    OptionButton* models[] = {&labels.Etiqu_1, &labels.Etiqu_2, &labels.Etiqu_3, &labels.Etiqu_4};
+    models[sheet]->UserClick();
+    labels.Imprime.UserClick();
+  });
+  EXPECT_EQ(run.Erreur_Fatale(), 0);
+  EXPECT_EQ(QFile::exists(File("Etiquettes-2.pdf")), count > 16);
+  EXPECT_TRUE(!QFile::exists(File("Etiquettes-3.pdf")));
 
- private Q_SLOTS:
-  void LabelsStayOnTheirSheets_data() {
-    QTest::addColumn<int>("sheet");
-    QTest::addColumn<int>("count");
-    for (int sheet = 0; sheet < 4; ++sheet)
-      for (const int count : {16, 17}) QTest::addRow("sheet %d, %d labels", sheet + 1, count) << sheet << count;
-  }
-  void LabelsStayOnTheirSheets() {
-    QFETCH(int, sheet);
-    QFETCH(int, count);
-    Paper paper;
-    paper.printer.answer = paper.File("Etiquettes.pdf");
-    std::string log;
-    std::vector<std::string> contacts;
-    for (int n = 0; n < count; ++n) log += contacts.emplace_back(Contact(n)) + "\r\n";
-    paper.disk.WriteAll(paper.programme.Chemin_Log("F9QZX"), log);
-    Programme programme({paper.settings, paper.messages, paper.dialogs, paper.clock, paper.windows, paper.disk,
-                         paper.printer, paper.devices.serial, paper.devices.pages, paper.devices.sounds,
-                         paper.devices.clipboard, paper.devices.documents, paper.folder.Path()});
-    programme.contexte.Station_Indicatif = "F9QZX_P";
-    paper.disk.Copy(paper.programme.Chemin_Log("F9QZX"), programme.Chemin_Log("F9QZX_P"));
-    paper.windows.Deliver(programme, [&] {
-      auto& selection = programme.Fenetre<Select_QSO>();
-      selection.Show();
-      while (selection.Liste_QSO.Count() > 0) selection.Liste_QSO.UserSelect(0);
-      auto& labels = programme.Fenetre<Etiquettes>();
-      labels.Show();
-      labels.RxTx.UserText("FT-847 + ampli.", 0);
-      labels.Antenne.UserText("2 x 9 element", 0);
-      OptionButton* models[] = {&labels.Etiqu_1, &labels.Etiqu_2, &labels.Etiqu_3, &labels.Etiqu_4};
-      models[sheet]->UserClick();
-      labels.Imprime.UserClick();
-    });
-    QCOMPARE(programme.Erreur_Fatale(), 0);
-    QCOMPARE(QFile::exists(paper.File("Etiquettes-2.pdf")), count > 16);
-    QVERIFY(!QFile::exists(paper.File("Etiquettes-3.pdf")));
-
-    const Textes_Etiquette texts{"F9QZX_P", "FT-847 + ampli.", "2 x 9 element"};
-    for (int first = 0; first < count; first += 16) {
-      const auto pages = Read(paper.File(first == 0 ? "Etiquettes.pdf" : "Etiquettes-2.pdf"));
-      QCOMPARE(pages.size(), std::size_t{1});
-      const auto lines = Lines(pages.front());
-      const int rows = (std::min(count - first, 16) + 1) / 2;
-      QCOMPARE(lines.size(), static_cast<std::size_t>(rows) * 5);
-      for (std::size_t i = 0; i < lines.size(); ++i) {
-        const int row = static_cast<int>(i / 5), left = first + 2 * row;
-        const auto text = [&](int n, Cote side) {
-          const std::string line = n < count ? Colonne_Numero(n + 1) + contacts[static_cast<std::size_t>(n)] : "";
-          return Compose_Etiquette(Lit_Contact(line), texts, Type_Etiquette::Activation, side,
-                                   kFeuilles[static_cast<std::size_t>(sheet)].titre)[i % 5];
-        };
-        const auto on_left = static_cast<std::size_t>(CountWords(text(left, Cote::Gauche)));
-        QCOMPARE(lines[i].size(), on_left + static_cast<std::size_t>(CountWords(text(left + 1, Cote::Droite))));
-        for (std::size_t w = 0; w < lines[i].size(); ++w) {
-          const QRectF label = kSheets[sheet].Label(row, w < on_left ? 0 : 1);
-          const QRectF& mm = lines[i][w].mm;
-          const QString seen = QStringLiteral("%1: %2 %3 - %4 %5, row %6")
-                                   .arg(lines[i][w].text)
-                                   .arg(mm.left())
-                                   .arg(mm.top())
-                                   .arg(mm.right())
-                                   .arg(mm.bottom())
-                                   .arg(row);
-          QVERIFY2(label.contains(mm), qPrintable(seen));
-        }
+  const Textes_Etiquette texts{"F9QZX_P", "FT-847 + ampli.", "2 x 9 element"};
+  for (int first = 0; first < count; first += 16) {
+    const auto pages = Read(File(first == 0 ? "Etiquettes.pdf" : "Etiquettes-2.pdf"));
+    EXPECT_EQ(pages.size(), std::size_t{1});
+    const auto lines = Lines(pages.front());
+    const int rows = (std::min(count - first, 16) + 1) / 2;
+    EXPECT_EQ(lines.size(), static_cast<std::size_t>(rows) * 5);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      const int row = static_cast<int>(i / 5), left = first + 2 * row;
+      const auto text = [&](int n, Cote side) {
+        const std::string line = n < count ? Colonne_Numero(n + 1) + contacts[static_cast<std::size_t>(n)] : "";
+        return Compose_Etiquette(Lit_Contact(line), texts, Type_Etiquette::Activation, side,
+                                 kFeuilles[sheet].titre)[i % 5];
+      };
+      const auto on_left = static_cast<std::size_t>(CountWords(text(left, Cote::Gauche)));
+      EXPECT_EQ(lines[i].size(), on_left + static_cast<std::size_t>(CountWords(text(left + 1, Cote::Droite))));
+      for (std::size_t w = 0; w < lines[i].size(); ++w) {
+        const QRectF label = kSheets[sheet].Label(row, w < on_left ? 0 : 1);
+        const QRectF& mm = lines[i][w].mm;
+        const QString seen = QStringLiteral("%1: %2 %3 - %4 %5, row %6")
+                                 .arg(lines[i][w].text)
+                                 .arg(mm.left())
+                                 .arg(mm.top())
+                                 .arg(mm.right())
+                                 .arg(mm.bottom())
+                                 .arg(row);
+        EXPECT_TRUE(label.contains(mm)) << qPrintable(seen);
       }
     }
   }
+}
 
-  void LinesRunDownThePagesAndAreCutNowhere() {
-    Paper paper;
-    const QString file = paper.File("Liste.pdf");
-    paper.printer.PrintTo(file);
-    const std::string longest = "    1 " + std::string(54, 'M') + " " + std::string(53, 'W') + " Reçue"_t;
-    QCOMPARE(longest.size(), std::size_t{120});
-    paper.Print(std::vector<std::string>(200, longest), {"Courier New", 8, true});
-    const auto pages = Read(file);
-    // 297 mm without two margins of 4.5, in lines of 8 x 1.085 points.
-    QCOMPARE(pages.size(), std::size_t{3});
-    QCOMPARE(Lines(pages[0]).size(), std::size_t{94});
-    QCOMPARE(Lines(pages[2]).size(), std::size_t{12});
-    const auto last = Lines(pages[1]).back();
-    QCOMPARE(last.back().text, QStringLiteral("Reçue"));
-    for (const Word& word : last) QVERIFY(QRectF({}, kPaper_mm).adjusted(4.9, 4.4, -4.9, -4.4).contains(word.mm));
-  }
+TEST_F(PrinterTest, LinesRunDownThePagesAndAreCutNowhere) {
+  const QString file = File("Liste.pdf");
+  printer.PrintTo(file);
+  const std::string longest = "    1 " + std::string(54, 'M') + " " + std::string(53, 'W') + " Reçue"_t;
+  EXPECT_EQ(longest.size(), std::size_t{120});
+  Print(std::vector<std::string>(200, longest), {"Courier New", 8, true});
+  const auto pages = Read(file);
+  // 297 mm without two margins of 4.5, in lines of 8 x 1.085 points.
+  EXPECT_EQ(pages.size(), std::size_t{3});
+  EXPECT_EQ(Lines(pages[0]).size(), std::size_t{94});
+  EXPECT_EQ(Lines(pages[2]).size(), std::size_t{12});
+  const auto last = Lines(pages[1]).back();
+  EXPECT_EQ(last.back().text, QStringLiteral("Reçue"));
+  for (const Word& word : last) EXPECT_TRUE(QRectF({}, kPaper_mm).adjusted(4.9, 4.4, -4.9, -4.4).contains(word.mm));
+}
 
-  void EachJobHasItsFileAndADiscardedOneHasNone() {
-    Paper paper;
-    const PrinterFont font{"Courier New", 11, false};
-    QFile older(paper.File("Essai.pdf"));
-    QVERIFY(older.open(QIODevice::WriteOnly) && older.write("avant") == 5);
-    older.close();
-    paper.folder.Write("Essai-2.pdf", "d'un autre jour");
-    paper.printer.answer = paper.File("Essai.pdf");
-    QVERIFY(paper.printer.Choose());
-    paper.printer.PrintLine("perdue");
-    paper.printer.DiscardJob();
-    paper.printer.EndJob();
-    QCOMPARE(paper.folder.Read("Essai.pdf"), std::string("avant"));
-    paper.Print({"une"}, font);
-    // Cancelled: on goes the printer last in force, and what it has printed stays.
-    paper.printer.answer.clear();
-    QVERIFY(!paper.printer.Choose());
-    paper.Print({"deux"}, font);
-    QCOMPARE(Read(paper.File("Essai.pdf"))[0][0].text, QStringLiteral("une"));
-    QCOMPARE(paper.folder.Read("Essai-2.pdf"), std::string("d'un autre jour"));
-    QCOMPARE(Read(paper.File("Essai-3.pdf"))[0][0].text, QStringLiteral("deux"));
-    QVERIFY(paper.messages.boxes.empty());
-  }
+TEST_F(PrinterTest, EachJobHasItsFileAndADiscardedOneHasNone) {
+  const PrinterFont font{"Courier New", 11, false};
+  QFile older(File("Essai.pdf"));
+  EXPECT_TRUE(older.open(QIODevice::WriteOnly) && older.write("avant") == 5);
+  older.close();
+  folder.Write("Essai-2.pdf", "d'un autre jour");
+  printer.answer = File("Essai.pdf");
+  EXPECT_TRUE(printer.Choose());
+  printer.PrintLine("perdue");
+  printer.DiscardJob();
+  printer.EndJob();
+  EXPECT_EQ(folder.Read("Essai.pdf"), std::string("avant"));
+  Print({"une"}, font);
+  // Cancelled: on goes the printer last in force, and what it has printed stays.
+  printer.answer.clear();
+  EXPECT_TRUE(!printer.Choose());
+  Print({"deux"}, font);
+  EXPECT_EQ(Read(File("Essai.pdf"))[0][0].text, QStringLiteral("une"));
+  EXPECT_EQ(folder.Read("Essai-2.pdf"), std::string("d'un autre jour"));
+  EXPECT_EQ(Read(File("Essai-3.pdf"))[0][0].text, QStringLiteral("deux"));
+  EXPECT_TRUE(messages.boxes.empty());
+}
 
-  void WhatCannotBePrintedFails() {
-    Paper paper;
-    const PrinterFont font{"Courier New", 11, false};
-    paper.printer.PrintTo(paper.File("absent/Essai.pdf"));
-    VERIFY_ERROR(paper.Print({"une"}, font), 75);
-    paper.printer.PrintTo(QStringLiteral("/dev/full"));
-    VERIFY_ERROR(paper.Print({"une"}, font), 57);
-    if (!QPrinterInfo::availablePrinterNames().isEmpty()) QSKIP("This system has a printer.");
-    AnsweredPrinter none(paper.windows, paper.messages);
-    VERIFY_ERROR(none.PrintLine("une"), 68);
-    // Where there is no printer at all, a cancelled dialog leads to a file, and the user is told of it.
-    QVERIFY(!none.Choose());
-    QCOMPARE(paper.messages.boxes.size(), std::size_t{1});
-    const std::string& told = paper.messages.boxes.front().text;
-    const QString file = ToQt(told.substr(told.find('/')));
-    none.PrintLine("une");
-    none.EndJob();
-    QCOMPARE(Read(file).at(0).at(0).text, QStringLiteral("une"));
-    QVERIFY(QFile::remove(file));
-  }
-};
+TEST_F(PrinterTest, WhatCannotBePrintedFails) {
+  const PrinterFont font{"Courier New", 11, false};
+  printer.PrintTo(File("absent/Essai.pdf"));
+  EXPECT_EQ(ErrorOf([&] { Print({"une"}, font); }), 75);
+  printer.PrintTo(QStringLiteral("/dev/full"));
+  EXPECT_EQ(ErrorOf([&] { Print({"une"}, font); }), 57);
+  if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "This system has a printer.";
+  AnsweredPrinter none(windows, messages);
+  EXPECT_EQ(ErrorOf([&] { none.PrintLine("une"); }), 68);
+  // Where there is no printer at all, a cancelled dialog leads to a file, and the user is told of it.
+  EXPECT_TRUE(!none.Choose());
+  EXPECT_EQ(messages.boxes.size(), std::size_t{1});
+  const std::string& told = messages.boxes.front().text;
+  const QString file = ToQt(told.substr(told.find('/')));
+  none.PrintLine("une");
+  none.EndJob();
+  EXPECT_EQ(Read(file).at(0).at(0).text, QStringLiteral("une"));
+  EXPECT_TRUE(QFile::remove(file));
+}
 
-const InSuite<PrinterTest> kPrinterTest;
-
+}  // namespace
 }  // namespace vorelio::tests
-
-#include "printer_test.moc"

@@ -10,7 +10,6 @@
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {
-
 namespace {
 
 class FieldForm : public TestForm {
@@ -23,15 +22,13 @@ class FieldForm : public TestForm {
 
 struct FieldBench : ControlBench<FieldForm> {
   FieldBench() {
-    field = Add(new QLineEdit, "Champ");
-    other = Add(new QLineEdit, "Autre");
     Add(new QPushButton, "Bouton");
     Bind();
     field->setFocus();
   }
 
-  QLineEdit* field;
-  QLineEdit* other;
+  QLineEdit* field = Add(new QLineEdit, "Champ");
+  QLineEdit* other = Add(new QLineEdit, "Autre");
 };
 
 class PageForm : public TestForm {
@@ -40,246 +37,223 @@ class PageForm : public TestForm {
   TextField Page{*this, "Page", "une\r\ndeux", true};
 };
 
-}  // namespace
-
-class TextFieldTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void NoKeyIsLostAtFullSpeed() {
-    FieldBench bench;
-    std::string seen;
-    bench.form().Champ.KeyPress = [&](int& key) { seen += static_cast<char>(key); };
-    const QString typed = QStringLiteral("the quick brown fox 0123456789 /?!").repeated(20);
-    QTest::keyClicks(bench.field, typed);
-    QCOMPARE(seen, FromQt(typed));
-    QCOMPARE(bench.field->text(), typed);
-    QCOMPARE(bench.form().Champ.Text(), FromQt(typed));
+struct PageBench : ControlBench<PageForm> {
+  PageBench() {
+    Bind();
+    page->setFocus();
   }
 
-  void EnterPressesTheButtonThatTheDesignNames() {
-    FieldBench bench;
-    int clicks = 0;
-    bench.form().Bouton.Click = [&] { ++clicks; };
-    QTest::keyClick(bench.field, Qt::Key_Return);
-    QCOMPARE(clicks, 0);
-    bench.field->setProperty("entree", QStringLiteral("Bouton"));
-    QTest::keyClick(bench.field, Qt::Key_Return);
-    QCOMPARE(clicks, 1);
-  }
+  QPlainTextEdit* page = Add(new QPlainTextEdit, "Page");
+  TextField& field = form().Page;
+};
 
-  void AccentsComeByKeyAndByInputMethod() {
-    FieldBench bench;
-    QTest::sendKeyEvent(QTest::Click, bench.field, Qt::Key_Eacute, QStringLiteral("é"), {});
-    QInputMethodEvent commit;
-    // A dead key's letter in two parts.
-    commit.setCommitString(QStringLiteral("e\u0302œ€"));
-    QApplication::sendEvent(bench.field, &commit);
-    QCOMPARE(bench.field->text(), QStringLiteral("éêœ€"));
-    QCOMPARE(bench.form().Champ.Text(), "éêœ€"_t);
-    QVERIFY(bench.gate.notices.isEmpty());
-  }
+using TextFieldTest = On<FieldBench>;
+using PageTest = On<PageBench>;
 
-  void ACharacterOutsideTheSetIsRefusedWithANotice() {
-    FieldBench bench;
-    QTest::sendKeyEvent(QTest::Click, bench.field, Qt::Key_unknown, QStringLiteral("я"), {});
-    QVERIFY(bench.field->text().isEmpty());
-    QCOMPARE(bench.gate.notices, QStringList{QStringLiteral("Ce caractère ne peut pas être noté dans le journal : я")});
-  }
+TEST_F(TextFieldTest, NoKeyIsLostAtFullSpeed) {
+  std::string seen;
+  form().Champ.KeyPress = [&](int& key) { seen += static_cast<char>(key); };
+  const QString typed = QStringLiteral("the quick brown fox 0123456789 /?!").repeated(20);
+  QTest::keyClicks(field, typed);
+  EXPECT_EQ(seen, FromQt(typed));
+  EXPECT_EQ(field->text(), typed);
+  EXPECT_EQ(form().Champ.Text(), FromQt(typed));
+}
 
-  void ShortcutsTypeNothing() {
-    FieldBench bench;
-    int keys = 0;
-    bench.form().Champ.KeyPress = [&](int&) { ++keys; };
-    QTest::keyClick(bench.field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(bench.field, Qt::Key_B, Qt::AltModifier);
-    QTest::keyClick(bench.field, Qt::Key_Left);
-    QTest::keyClick(bench.field, Qt::Key_Backspace);
-    QCOMPARE(keys, 0);
-    // AltGr, as some keyboards send it.
-    QKeyEvent at(QEvent::KeyPress, Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, QStringLiteral("@"));
-    QApplication::sendEvent(bench.field, &at);
-    QCOMPARE(bench.form().Champ.Text(), "@");
-  }
+TEST_F(TextFieldTest, EnterPressesTheButtonThatTheDesignNames) {
+  int clicks = 0;
+  form().Bouton.Click = [&] { ++clicks; };
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_EQ(clicks, 0);
+  field->setProperty("entree", QStringLiteral("Bouton"));
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_EQ(clicks, 1);
+}
 
-  void Pastes_data() {
-    QTest::addColumn<QString>("pasted");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("notices");
-    QTest::newRow("plain") << QStringLiteral("jn33bb") << QStringLiteral("jn33bb") << 0;
-    QTest::newRow("line ends") << QStringLiteral("a\r\nb\nc") << QStringLiteral("a b c") << 0;
-    QTest::newRow("decomposed") << QStringLiteral("Ele\u0300ne") << QStringLiteral("Elène") << 0;
-    QTest::newRow("foreign") << QStringLiteral("abc Москва") << QString() << 1;
-  }
-  void Pastes() {
-    QFETCH(QString, pasted);
-    QFETCH(QString, text);
-    QFETCH(int, notices);
+TEST_F(TextFieldTest, AccentsComeByKeyAndByInputMethod) {
+  QTest::sendKeyEvent(QTest::Click, field, Qt::Key_Eacute, QStringLiteral("é"), {});
+  QInputMethodEvent commit;
+  // A dead key's letter in two parts.
+  commit.setCommitString(QStringLiteral("e\u0302œ€"));
+  QApplication::sendEvent(field, &commit);
+  EXPECT_EQ(field->text(), QStringLiteral("éêœ€"));
+  EXPECT_EQ(form().Champ.Text(), "éêœ€"_t);
+  EXPECT_TRUE(gate.notices.isEmpty());
+}
+
+TEST_F(TextFieldTest, ACharacterOutsideTheSetIsRefusedWithANotice) {
+  QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QStringLiteral("я"), {});
+  EXPECT_TRUE(field->text().isEmpty());
+  EXPECT_EQ(gate.notices, QStringList{QStringLiteral("Ce caractère ne peut pas être noté dans le journal : я")});
+}
+
+TEST_F(TextFieldTest, ShortcutsTypeNothing) {
+  int keys = 0;
+  form().Champ.KeyPress = [&](int&) { ++keys; };
+  QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(field, Qt::Key_B, Qt::AltModifier);
+  QTest::keyClick(field, Qt::Key_Left);
+  QTest::keyClick(field, Qt::Key_Backspace);
+  EXPECT_EQ(keys, 0);
+  // AltGr, as some keyboards send it.
+  QKeyEvent at(QEvent::KeyPress, Qt::Key_At, Qt::ControlModifier | Qt::AltModifier, QStringLiteral("@"));
+  QApplication::sendEvent(field, &at);
+  EXPECT_EQ(form().Champ.Text(), "@");
+}
+
+TEST_F(TextFieldTest, Pastes) {
+  const struct {
+    QString pasted, text;
+    int notices;
+  } cases[] = {{QStringLiteral("jn33bb"), QStringLiteral("jn33bb"), 0},
+               {QStringLiteral("a\r\nb\nc"), QStringLiteral("a b c"), 0},
+               // Decomposed.
+               {QStringLiteral("Ele\u0300ne"), QStringLiteral("Elène"), 0},
+               {QStringLiteral("abc Москва"), QString(), 1}};
+  for (const auto& [pasted, text, notices] : cases) {
     FieldBench bench;
     int keys = 0;
     bench.form().Champ.KeyPress = [&](int&) { ++keys; };
     QApplication::clipboard()->setText(pasted);
     QTest::keyClick(bench.field, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(bench.field->text(), text);
-    QCOMPARE(bench.form().Champ.Text(), FromQt(text));
-    QCOMPARE(bench.gate.notices.size(), notices);
-    QCOMPARE(keys, 0);
+    EXPECT_EQ(bench.field->text(), text);
+    EXPECT_EQ(bench.form().Champ.Text(), FromQt(text));
+    EXPECT_EQ(bench.gate.notices.size(), notices);
+    EXPECT_EQ(keys, 0);
   }
+}
 
-  void AForeignPasteLeavesTextAndCaret() {
-    FieldBench bench;
-    bench.form().Champ.SetText("METZ");
-    bench.form().Champ.SetCaret(2);
-    QApplication::clipboard()->setText(QStringLiteral("Łódź"));
-    QTest::keyClick(bench.field, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(bench.field->text(), QStringLiteral("METZ"));
-    QCOMPARE(bench.field->cursorPosition(), 2);
-  }
+TEST_F(TextFieldTest, AForeignPasteLeavesTextAndCaret) {
+  form().Champ.SetText("METZ");
+  form().Champ.SetCaret(2);
+  QApplication::clipboard()->setText(QStringLiteral("Łódź"));
+  QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(field->text(), QStringLiteral("METZ"));
+  EXPECT_EQ(field->cursorPosition(), 2);
+}
 
-  void DeletionsAndUndoAreTold() {
-    FieldBench bench;
-    QTest::keyClicks(bench.field, QStringLiteral("F6ABC"));
-    QTest::keyClick(bench.field, Qt::Key_Backspace);
-    QCOMPARE(bench.form().Champ.Text(), "F6AB");
-    QTest::keyClick(bench.field, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(bench.form().Champ.Text(), "F6ABC");
-    QCOMPARE(bench.field->text(), QStringLiteral("F6ABC"));
-  }
+TEST_F(TextFieldTest, DeletionsAndUndoAreTold) {
+  QTest::keyClicks(field, QStringLiteral("F6ABC"));
+  QTest::keyClick(field, Qt::Key_Backspace);
+  EXPECT_EQ(form().Champ.Text(), "F6AB");
+  QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(form().Champ.Text(), "F6ABC");
+  EXPECT_EQ(field->text(), QStringLiteral("F6ABC"));
+}
 
-  void TheCaretStandsWhereTheLogicPutsIt() {
-    FieldBench bench;
-    TextField& field = bench.form().Champ;
-    field.SetText("DFCF ");
-    field.SetCaret(5);
-    QCOMPARE(bench.field->cursorPosition(), 5);
-    QVERIFY(!bench.field->hasSelectedText());
-    field.SetCaret(1, 3);
-    QCOMPARE(bench.field->selectionStart(), 1);
-    QCOMPARE(bench.field->selectedText(), QStringLiteral("FCF"));
-    QTest::keyClicks(bench.field, QStringLiteral("x"));
-    QCOMPARE(field.Text(), "Dx ");
-  }
+TEST_F(TextFieldTest, TheCaretStandsWhereTheLogicPutsIt) {
+  TextField& model = form().Champ;
+  model.SetText("DFCF ");
+  model.SetCaret(5);
+  EXPECT_EQ(field->cursorPosition(), 5);
+  EXPECT_TRUE(!field->hasSelectedText());
+  model.SetCaret(1, 3);
+  EXPECT_EQ(field->selectionStart(), 1);
+  EXPECT_EQ(field->selectedText(), QStringLiteral("FCF"));
+  QTest::keyClicks(field, QStringLiteral("x"));
+  EXPECT_EQ(model.Text(), "Dx ");
+}
 
-  void TheUsersCaretIsTold() {
-    FieldBench bench;
-    bench.form().Champ.SetText("12345");
-    bench.form().Champ.SetCaret(5);
-    QTest::keyClick(bench.field, Qt::Key_Home);
-    QTest::keyClicks(bench.field, QStringLiteral("0"));
-    QCOMPARE(bench.form().Champ.Text(), "012345");
-    QTest::keyClick(bench.field, Qt::Key_End, Qt::ShiftModifier);
-    QTRY_COMPARE(bench.form().Champ.SelectionLength(), 5);
-  }
+TEST_F(TextFieldTest, TheUsersCaretIsTold) {
+  form().Champ.SetText("12345");
+  form().Champ.SetCaret(5);
+  QTest::keyClick(field, Qt::Key_Home);
+  QTest::keyClicks(field, QStringLiteral("0"));
+  EXPECT_EQ(form().Champ.Text(), "012345");
+  QTest::keyClick(field, Qt::Key_End, Qt::ShiftModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form().Champ.SelectionLength() == 5; }));
+}
 
-  // A field whose text was set stands selected: the first character takes its place. Without the focus it shows none.
-  void ASetTextGivesWayToTheFirstCharacter() {
-    FieldBench bench;
-    QVERIFY(!bench.other->hasSelectedText());
-    bench.form().Autre.SetFocus();
-    bench.other->setFocus(Qt::OtherFocusReason);
-    bench.binding->Of(bench.form().Autre)->Focused();
-    QCOMPARE(bench.other->selectedText(), QStringLiteral("59"));
-    QTest::keyClicks(bench.other, QStringLiteral("5"));
-    QCOMPARE(bench.form().Autre.Text(), "5");
-  }
+// A field whose text was set stands selected: the first character takes its place. Without the focus it shows none.
+TEST_F(TextFieldTest, ASetTextGivesWayToTheFirstCharacter) {
+  EXPECT_TRUE(!other->hasSelectedText());
+  form().Autre.SetFocus();
+  other->setFocus(Qt::OtherFocusReason);
+  binding->Of(form().Autre)->Focused();
+  EXPECT_EQ(other->selectedText(), QStringLiteral("59"));
+  QTest::keyClicks(other, QStringLiteral("5"));
+  EXPECT_EQ(form().Autre.Text(), "5");
+}
 
-  void ADoubleClickIsTheLogics() {
-    FieldBench bench;
-    bench.form().Champ.SetText("F6ABC");
-    bench.form().Champ.DblClick = [&] { bench.form().Champ.Clear(); };
-    QTest::mouseDClick(bench.field, Qt::LeftButton);
-    QVERIFY(bench.field->text().isEmpty());
-    bench.form().Champ.SetText("F6ABC");
-    QTest::keyClick(bench.field, Qt::Key_F2);
-    QVERIFY(bench.field->text().isEmpty());
-  }
+TEST_F(TextFieldTest, ADoubleClickIsTheLogics) {
+  form().Champ.SetText("F6ABC");
+  form().Champ.DblClick = [&] { form().Champ.Clear(); };
+  QTest::mouseDClick(field, Qt::LeftButton);
+  EXPECT_TRUE(field->text().isEmpty());
+  form().Champ.SetText("F6ABC");
+  QTest::keyClick(field, Qt::Key_F2);
+  EXPECT_TRUE(field->text().isEmpty());
+}
 
-  void ColouredFieldsKeepBlackText_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
-  }
-  void ColouredFieldsKeepBlackText() {
-    QFETCH(bool, dark);
-    const QPalette before = QApplication::palette();
+TEST_F(TextFieldTest, ColouredFieldsKeepBlackText) {
+  const QPalette before = QApplication::palette();
+  for (const bool dark : {false, true}) {
     QApplication::setPalette(ThemePalette(dark));
     FieldBench bench;
-    TextField& field = bench.form().Champ;
-    field.SetColour(kSaisie);
-    QCOMPARE(bench.field->palette().color(QPalette::Base), QColor(0xC0, 0xFF, 0xC0));
+    const auto seen = [&](QPalette::ColorRole role, QPalette::ColorGroup group = QPalette::Active) {
+      return bench.field->palette().color(group, role);
+    };
+    TextField& coloured = bench.form().Champ;
+    coloured.SetColour(kSaisie);
+    EXPECT_EQ(seen(QPalette::Base), QColor(0xC0, 0xFF, 0xC0));
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-      QCOMPARE(bench.field->palette().color(group, QPalette::Text), QColor(Qt::black));
-    field.SetColour(kFait);
-    QCOMPARE(bench.field->palette().color(QPalette::Base), QColor(0xFF, 0xFF, 0xC0));
-    field.SetColour(kFond_Fenetre);
-    QCOMPARE(bench.field->palette().color(QPalette::Base), ThemePalette(dark).color(QPalette::Base));
-    QCOMPARE(bench.field->palette().color(QPalette::Text), ThemePalette(dark).color(QPalette::Text));
-    QApplication::setPalette(before);
+      EXPECT_EQ(seen(QPalette::Text, group), QColor(Qt::black));
+    coloured.SetColour(kFait);
+    EXPECT_EQ(seen(QPalette::Base), QColor(0xFF, 0xFF, 0xC0));
+    coloured.SetColour(kFond_Fenetre);
+    EXPECT_EQ(seen(QPalette::Base), ThemePalette(dark).color(QPalette::Base));
+    EXPECT_EQ(seen(QPalette::Text), ThemePalette(dark).color(QPalette::Text));
   }
+  QApplication::setPalette(before);
+}
 
-  void ADisabledFieldTakesNothingAndTellsNoFocus() {
-    FieldBench bench;
-    bench.form().Champ.SetFocus();
-    bench.form().Champ.SetEnabled(false);
-    QVERIFY(!bench.field->isEnabled());
-    QCOMPARE(bench.gate.lost, 1);
-    // Qt has moved the focus on; the logic's word stands.
-    QCOMPARE(bench.programme.Focus(), &bench.form().Champ);
-    QTest::keyClick(bench.other, Qt::Key_Tab);
-    QCOMPARE(bench.programme.Focus(), &bench.form().Bouton);
-  }
+TEST_F(TextFieldTest, ADisabledFieldTakesNothingAndTellsNoFocus) {
+  form().Champ.SetFocus();
+  form().Champ.SetEnabled(false);
+  EXPECT_TRUE(!field->isEnabled());
+  EXPECT_EQ(gate.lost, 1);
+  // Qt has moved the focus on; the logic's word stands.
+  EXPECT_EQ(programme.Focus(), &form().Champ);
+  QTest::keyClick(other, Qt::Key_Tab);
+  EXPECT_EQ(programme.Focus(), &form().Bouton);
+}
 
-  void AnUnboundWidgetIsSilent() {
-    FieldBench bench;
-    bench.binding.reset();
-    QTest::keyClicks(bench.field, QStringLiteral("x"));
-    QVERIFY(bench.form().Champ.Text().empty());
-    bench.form().Champ.SetText("y");
-  }
+TEST_F(TextFieldTest, AnUnboundWidgetIsSilent) {
+  binding.reset();
+  QTest::keyClicks(field, QStringLiteral("x"));
+  EXPECT_TRUE(form().Champ.Text().empty());
+  form().Champ.SetText("y");
+}
 
-  void PagesKeepTheirLineEnds() {
-    ControlBench<PageForm> bench;
-    auto* page = bench.Add(new QPlainTextEdit, "Page");
-    bench.Bind();
-    page->setFocus();
-    TextField& field = bench.form().Page;
-    QCOMPARE(page->toPlainText(), QStringLiteral("une\ndeux"));
-    field.SetCaret(5);
-    QCOMPARE(page->textCursor().position(), 4);
-    QTest::keyClicks(page, QStringLiteral("x"));
-    QTest::keyClick(page, Qt::Key_Return);
-    QCOMPARE(field.Text(), "une\r\nx\r\ndeux");
-    QTest::keyClick(page, Qt::Key_Backspace);
-    QTest::keyClick(page, Qt::Key_Backspace);
-    QCOMPARE(field.Text(), "une\r\ndeux");
-    QCOMPARE(field.Caret(), 5);
-    QApplication::clipboard()->setText(QStringLiteral("ф"));
-    QTest::keyClick(page, Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(page->toPlainText(), QStringLiteral("une\ndeux"));
-    QCOMPARE(bench.gate.notices.size(), 1);
-  }
+TEST_F(PageTest, PagesKeepTheirLineEnds) {
+  EXPECT_EQ(page->toPlainText(), QStringLiteral("une\ndeux"));
+  field.SetCaret(5);
+  EXPECT_EQ(page->textCursor().position(), 4);
+  QTest::keyClicks(page, QStringLiteral("x"));
+  QTest::keyClick(page, Qt::Key_Return);
+  EXPECT_EQ(field.Text(), "une\r\nx\r\ndeux");
+  QTest::keyClick(page, Qt::Key_Backspace);
+  QTest::keyClick(page, Qt::Key_Backspace);
+  EXPECT_EQ(field.Text(), "une\r\ndeux");
+  EXPECT_EQ(field.Caret(), 5);
+  QApplication::clipboard()->setText(QStringLiteral("ф"));
+  QTest::keyClick(page, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(page->toPlainText(), QStringLiteral("une\ndeux"));
+  EXPECT_EQ(gate.notices.size(), 1);
+}
 
-  void PagesTakeBackWhatWasTyped() {
-    ControlBench<PageForm> bench;
-    auto* page = bench.Add(new QPlainTextEdit, "Page");
-    bench.Bind();
-    page->setFocus();
-    TextField& field = bench.form().Page;
-    // The fixed blank of a French text isn't an ordinary one.
-    field.SetText("une\r\nvoici\xA0: deux");
-    field.SetCaret(3);
-    QTest::keyClicks(page, QStringLiteral("xy"));
-    QCOMPARE(field.Text(), "unexy\r\nvoici\xA0: deux");
-    QTest::keyClick(page, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(field.Text(), "une\r\nvoici\xA0: deux");
-    // Selected from a menu, with no key and no click on the text.
-    page->selectAll();
-    QTRY_COMPARE(field.SelectionLength(), static_cast<int>(field.Text().size()));
-  }
-};
+TEST_F(PageTest, PagesTakeBackWhatWasTyped) {
+  // The fixed blank of a French text isn't an ordinary one.
+  field.SetText("une\r\nvoici\xA0: deux");
+  field.SetCaret(3);
+  QTest::keyClicks(page, QStringLiteral("xy"));
+  EXPECT_EQ(field.Text(), "unexy\r\nvoici\xA0: deux");
+  QTest::keyClick(page, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(field.Text(), "une\r\nvoici\xA0: deux");
+  // Selected from a menu, with no key and no click on the text.
+  page->selectAll();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return field.SelectionLength() == static_cast<int>(field.Text().size()); }));
+}
 
-const InSuite<TextFieldTest> kTextFieldTest;
-
+}  // namespace
 }  // namespace vorelio::tests
-
-#include "text_field_test.moc"

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QPointer>
 #include <QPushButton>
+#include <QSettings>
 #include <QString>
 #include <QTest>
 #include <QVBoxLayout>
@@ -17,12 +20,17 @@
 #include "doubles/services.h"
 #include "platform/posix_disk.h"
 #include "platform/qt/binder.h"
+#include "platform/qt/qt_text.h"
 #include "platform/qt/qt_windows.h"
-#include "windows/suite.h"
+#include "platform/qt/window_extras.h"
 
 namespace vorelio::tests {
 
 using namespace doubles;
+
+/// A test on a bench of its own.
+template <typename Bench>
+class On : public ::testing::Test, public Bench {};
 
 /// A program on the real windows, with doubles for all else and a station of its own.
 struct WindowsBench {
@@ -44,6 +52,18 @@ struct WindowsBench {
   PosixDisk disk;
   QtWindows windows;
   Programme programme;
+};
+
+/// What the program itself adds to its windows, such as the view menu, and what it remembers of them.
+struct ProgramLook {
+  decltype(QtWindows::Furnish) Furnisher() {
+    return [this](const Form& form, QWidget& window) { return extras.Furnish(form, window); };
+  }
+
+  ScratchFolder memory_folder;
+  QSettings memory{ToQt(memory_folder.File("Fenetres.ini")), QSettings::IniFormat};
+  Appearance look{memory};
+  WindowExtras extras{look, memory};
 };
 
 /// A gate that lets everything through and notes what passes.
@@ -96,7 +116,7 @@ struct ControlBench {
     binding = std::make_unique<Binding>(form(), window, gate);
     window.show();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   }
 
   ScratchFolder folder;
