@@ -25,8 +25,7 @@ TEST(CatFrames, Yaesu) {
 
 TEST(CatFrames, Ft1000) {
   const struct {
-    const char* from;
-    const char* to;
+    const char *from, *to;
     Parametres_CAT bytes;
     int digits;
   } cases[] = {{"1419500", "00591410", {0x00, 0x59, 0x14, 0x10}, 6},

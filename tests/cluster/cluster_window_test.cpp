@@ -1,7 +1,5 @@
 #include "cluster/cluster_window.h"
 
-#include <gtest/gtest.h>
-
 #include <chrono>
 
 #include "cluster/made_up_page.h"

@@ -1,14 +1,10 @@
 #include "core/error_window.h"
 
-#include <gtest/gtest.h>
-
 #include "core/errors.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
 namespace {
-
-using namespace Sous_Programmes;
 
 class ErrorWindowTest : public StationFixture {
  protected:

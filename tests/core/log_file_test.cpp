@@ -10,8 +10,6 @@
 namespace vorelio::tests {
 namespace {
 
-using namespace Sous_Programmes;
-
 std::string Ligne(const std::string& date, const std::string& heure, const std::string& indicatif) {
   return Construit_Ligne(Contact({date, indicatif, heure}));
 }
@@ -38,9 +36,7 @@ class LogFile : public StationFixture {
 
 TEST_F(LogFile, InsertsAtTheDateWithItsCentury) {
   struct {
-    const char* date;
-    const char* time;
-    const char* order;
+    const char *date, *time, *order;
   } const cases[] = {
       {"31/12/49", "10:00", "OLD MID LATE NEW "},  // 2049
       {"01/01/50", "00:00", "NEW OLD MID LATE "},  // 1950
@@ -48,8 +44,8 @@ TEST_F(LogFile, InsertsAtTheDateWithItsCentury) {
       {"02/01/04", "10:00", "OLD MID NEW LATE "},  // a tie goes to the new one
       {"02/01/04", "10:01", "OLD MID LATE NEW "},
   };
-  const std::string log = Ligne("01/01/99", "10:00", "OLD") + "\r\n" + Ligne("01/01/04", "23:59", "MID") + "\r\n" +
-                          Ligne("02/01/04", "10:00", "LATE") + "\r\n";
+  const std::string log = Joined(
+      {Ligne("01/01/99", "10:00", "OLD"), Ligne("01/01/04", "23:59", "MID"), Ligne("02/01/04", "10:00", "LATE")});
   for (const auto& c : cases) {
     Restart();
     Start(log);
@@ -84,20 +80,17 @@ TEST_F(LogFile, AsksOldLinesForTheirDateOnlyUntilThePlaceIsFound) {
 
 TEST_F(LogFile, ReadsWhateverEndsItsLines) {
   const std::string line = Ligne("01/01/04", "10:00", "F6ABC");
-  struct {
-    std::string bytes;
-    int count;
-  } const cases[] = {
+  const std::pair<std::string, int> cases[] = {
       {"", 0}, {line + "\r\n", 1}, {line + "\n" + line, 2}, {line + "\r\n" + line.substr(0, 90), 2}, {"\r\n\r\n", 2}};
-  for (const auto& c : cases) {
+  for (const auto& [bytes, count] : cases) {
     Restart();
-    auto& ddfm = Start(c.bytes);
-    EXPECT_EQ(ddfm.Liste_QSO.Count(), c.count);
-    EXPECT_EQ(programme->contexte.Nb_QSO, c.count);
-    EXPECT_EQ(ddfm.Frame4.Caption(), De_Utf8("QSO numéro ") + std::to_string(c.count + 1));
+    auto& ddfm = Start(bytes);
+    EXPECT_EQ(ddfm.Liste_QSO.Count(), count);
+    EXPECT_EQ(programme->contexte.Nb_QSO, count);
+    EXPECT_EQ(ddfm.Frame4.Caption(), De_Utf8("QSO numéro ") + std::to_string(count + 1));
     EXPECT_TRUE(ddfm.Visible());
     // Reading changes nothing.
-    EXPECT_EQ(Read("F9QZX.log"), c.bytes);
+    EXPECT_EQ(Read("F9QZX.log"), bytes);
   }
 }
 
@@ -115,15 +108,15 @@ TEST_F(LogFile, AMissingLogAndTheHundredThousandthLineEndTheProgram) {
 }
 
 TEST_F(LogFile, DeletesAndRenumbers) {
-  auto& ddfm = Start(Ligne("01/01/04", "10:00", "A") + "\r\n" + Ligne("02/01/04", "10:00", "B") + "\r\n" +
-                     Ligne("03/01/04", "10:00", "C") + "\r\n");
+  const std::string a = Ligne("01/01/04", "10:00", "A"), c = Ligne("03/01/04", "10:00", "C");
+  auto& ddfm = Start(Joined({a, Ligne("02/01/04", "10:00", "B"), c}));
   Event([&] {
     ddfm.Liste_QSO.SetListIndex(1);
     Efface_Ligne_Log(*programme);
   });
   EXPECT_EQ(Calls(), "A C ");
   EXPECT_EQ(ddfm.Liste_QSO.Item(1).substr(0, 6), "    2 ");
-  EXPECT_EQ(Read("F9QZX.log"), Ligne("01/01/04", "10:00", "A") + "\r\n" + Ligne("03/01/04", "10:00", "C") + "\r\n");
+  EXPECT_EQ(Read("F9QZX.log"), Joined({a, c}));
   Event([&] { Efface_Ligne_Log(*programme); });
   EXPECT_EQ(messages.fatal_number, 5);
 }
@@ -132,7 +125,7 @@ TEST_F(LogFile, ASaveThatCannotBeWrittenIsSeenWithTheFormStillFilled) {
   auto& ddfm = Start("");
   ddfm.Mnu_Auto_Oui.UserClick();
   Event([&] { ddfm.Indicatif_A.SetText("1ZZZ"); });
-  for (TextField* field : {&ddfm.Indicatif_A}) Event([&] { field->UserKey(kEntree); });
+  Event([&] { ddfm.Indicatif_A.UserKey(kEntree); });
   Event([&] { ddfm.Mode_A.UserKey(kEntree); });
   Event([&] { ddfm.Activ_A.UserKey(kEntree); });
   for (TextField* field : {&ddfm.RSTE_A, &ddfm.RSTR_A, &ddfm.Prenom_A, &ddfm.QTH_A, &ddfm.Remarques_A})
@@ -171,29 +164,14 @@ TEST(LogLine, StandsInItsColumns) {
   qso.Remarques_A = "C. CHATEAU";
   const std::string line = Construit_Ligne(qso);
   ASSERT_EQ(line.size(), 199U);
-  const struct {
-    Champ field;
-    std::string text;
-  } cases[] = {{champs::Date_A, "12/05/03"},
-               {champs::Indicatif_A, "F9QZX/PORTAB"},
-               {champs::Debut_A, "10:00"},
-               {champs::Fin_A, "10:05"},
-               {champs::Depart_A, "2a"},
-               {champs::Locator_A, "JN33BB"},
-               {champs::Bande_A, "144 Mhz"},
-               {champs::Mode_A, "PACKET7"},
-               {champs::RSTE_A, "59"},
-               {champs::RSTR_A, "58"},
-               {champs::QTH_A, "DFCF 06001"},
-               {champs::Prenom_A, "Zo\xE9"},
-               {champs::Etat_QSL, "1"},
-               {champs::QSLE_A, ""},
-               {champs::QSLR_A, ""},
-               {champs::Distance_A, "12345"},
-               {champs::Azimut_A, "360"},
-               {champs::Activ_A, "12"},
-               {champs::Remarques_A, "C. CHATEAU"}};
-  for (const auto& c : cases) EXPECT_EQ(Lit_Log(line, c.field), c.text) << c.field.colonne;
+  using namespace champs;
+  const Champ fields[] = {Date_A, Indicatif_A, Debut_A,  Fin_A,   Depart_A,   Locator_A, Bande_A,
+                          Mode_A, RSTE_A,      RSTR_A,   QTH_A,   Prenom_A,   Etat_QSL,  QSLE_A,
+                          QSLR_A, Distance_A,  Azimut_A, Activ_A, Remarques_A};
+  Lines texts;
+  for (const Champ& field : fields) texts.emplace_back(Lit_Log(line, field));
+  EXPECT_EQ(texts, (Lines{"12/05/03", "F9QZX/PORTAB", "10:00", "10:05", "2a", "JN33BB", "144 Mhz", "PACKET7", "59",
+                          "58", "DFCF 06001", "Zo\xE9", "1", "", "", "12345", "360", "12", "C. CHATEAU"}));
   EXPECT_EQ(line.back(), '*');
 
   // Longer than its width uses the gap; beyond it there is no place.

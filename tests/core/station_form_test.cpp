@@ -1,7 +1,5 @@
 #include "core/station_form.h"
 
-#include <gtest/gtest.h>
-
 #include "core/error_window.h"
 #include "core/loading_window.h"
 #include "core/station_files.h"
@@ -10,8 +8,6 @@
 
 namespace vorelio::tests {
 namespace {
-
-using namespace Sous_Programmes;
 
 class StationFormTest : public StationFixture {
  protected:
@@ -55,14 +51,13 @@ class StationFormTest : public StationFixture {
     Enter(Window().Liste_Indicatifs);
     Event([&] { Window().Validation.UserClick(); });
   }
-  std::string Setting(const std::string& section, const std::string& key) { return settings.Get(section, key); }
 };
 
 TEST_F(StationFormTest, ClosedWithoutAChoiceTheTemplateStationStays) {
   windows.OnModal = [&](Form&) { Window().Quitter.UserClick(); };
   Event([&] { Main(); });
   EXPECT_EQ(programme->contexte.Station_Indicatif, "FXXXX");
-  EXPECT_EQ(Setting("Setup", "Nombre Indicatif"), "");
+  EXPECT_EQ(settings.Get("Setup", "Nombre Indicatif"), "");
   EXPECT_EQ(programme->Erreur_Fatale(), 0);
 }
 
@@ -105,8 +100,8 @@ TEST_F(StationFormTest, AListedStationWithoutItsLogIsMadeAnew) {
   settings.Write("DDFM", "Setup F6ABC", "NB Activite", "9");
   Pick(0);
   EXPECT_TRUE(folder.Exists("F6ABC.log"));
-  EXPECT_EQ(Setting("Setup F6ABC", "NB Activite"), "5");
-  EXPECT_EQ(Setting("Setup", "Nombre Indicatif"), "1");
+  EXPECT_EQ(settings.Get("Setup F6ABC", "NB Activite"), "5");
+  EXPECT_EQ(settings.Get("Setup", "Nombre Indicatif"), "1");
 }
 
 TEST_F(StationFormTest, AFailingStepDoesNotKeepTheNextOnesBack) {
@@ -146,7 +141,7 @@ TEST_F(StationFormTest, AMissingTemplateShowsAtTheFirstTally) {
   };
   Create("F9QZX", "JN33BB");
   EXPECT_TRUE(waited);
-  EXPECT_EQ(Setting("Setup", "Indicatif Station"), "F9QZX");
+  EXPECT_EQ(settings.Get("Setup", "Indicatif Station"), "F9QZX");
   EXPECT_FALSE(folder.Exists("F9QZX_Prefixe.txt"));
 }
 

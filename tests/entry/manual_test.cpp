@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "entry/ddfm.h"
 #include "support/station_fixture.h"
 

@@ -1,7 +1,5 @@
 #include "exchange/adif_export.h"
 
-#include <gtest/gtest.h>
-
 #include "core/bands.h"
 #include "core/log_line.h"
 #include "entry/ddfm.h"
@@ -22,46 +20,33 @@ Champs_QSO Qso() {
 }
 
 TEST(AdifExport, RecordOfALine) {
-  const auto with = [](std::string Champs_QSO::*field, const char* value) {
+  using Q = Champs_QSO;
+  const auto with = [](std::initializer_list<std::string Q::*> fields, const char* value) {
     Champs_QSO qso = Qso();
-    qso.*field = value;
+    for (const auto field : fields) qso.*field = value;
     return Construit_Ligne(qso);
   };
-  using Q = Champs_QSO;
   const std::string times = "<time_on:4>1205<time_off:4>1217";
   const std::string head = "<call:5>F9QZX<name:3>Zo\xE9<gridsquare:6>JN33BB<band:2>2m<mode:3>SSB<qso_date:8>20030512";
   const std::string reports = "<rst_sent:2>59<rst_rcvd:2>57";
   const std::string comment = "<comment:24>Dpt:06  NICE premier QSO<eor>";
-  const struct {
-    const char* what;
-    std::string line, record;
-  } cases[] = {
+  const std::tuple<const char*, std::string, std::string> cases[] = {
       {"all fields", Construit_Ligne(Qso()), head + times + reports + comment},
-      {"no name", with(&Q::Prenom_A, ""),
+      {"no name", with({&Q::Prenom_A}, ""),
        "<call:5>F9QZX<gridsquare:6>JN33BB<band:2>2m<mode:3>SSB<qso_date:8>20030512" + times + reports + comment},
-      {"no locator", with(&Q::Locator_A, ""),
+      {"no locator", with({&Q::Locator_A}, ""),
        "<call:5>F9QZX<name:3>Zo\xE9<band:2>2m<mode:3>SSB<qso_date:8>20030512" + times + reports + comment},
-      {"a band of no table", with(&Q::Bande_A, "27 Mhz"),
+      {"a band of no table", with({&Q::Bande_A}, "27 Mhz"),
        "<call:5>F9QZX<name:3>Zo\xE9<gridsquare:6>JN33BB<band:4>XX.m<mode:3>SSB<qso_date:8>20030512" + times + reports +
            comment},
-      {"the century is always 20", with(&Q::Date_A, "31/12/99"),
+      {"the century is always 20", with({&Q::Date_A}, "31/12/99"),
        "<call:5>F9QZX<name:3>Zo\xE9<gridsquare:6>JN33BB<band:2>2m<mode:3>SSB<qso_date:8>20991231" + times + reports +
            comment},
-      {"no end, no reports",
-       [] {
-         Champs_QSO qso = Qso();
-         qso.Fin_A = qso.RSTE_A = qso.RSTR_A = "";
-         return Construit_Ligne(qso);
-       }(),
+      {"no end, no reports", with({&Q::Fin_A, &Q::RSTE_A, &Q::RSTR_A}, ""),
        head + "<time_on:4>1205<time_off:0><rst_sent:0><rst_rcvd:0>" + comment},
-      {"a long department", with(&Q::Depart_A, "974"),
+      {"a long department", with({&Q::Depart_A}, "974"),
        head + times + reports + "<comment:24>Dpt:97  NICE premier QSO<eor>"},
-      {"remarks alone",
-       [] {
-         Champs_QSO qso = Qso();
-         qso.Depart_A = qso.QTH_A = "";
-         return Construit_Ligne(qso);
-       }(),
+      {"remarks alone", with({&Q::Depart_A, &Q::QTH_A}, ""),
        head + times + reports + "<comment:18>Dpt:   premier QSO<eor>"},
       {"an empty line", "",
        "<call:0><band:4>XX.m<mode:0><qso_date:2>20<time_on:0><time_off:0><rst_sent:0><rst_rcvd:0>"
@@ -70,7 +55,7 @@ TEST(AdifExport, RecordOfALine) {
        "<call:5>F9QZX<gridsquare:6>JN33BB<band:4>XX.m<mode:0><qso_date:8>20030512" + times +
            "<rst_sent:0><rst_rcvd:0><comment:9>Dpt:06   <eor>"},
   };
-  for (const auto& test : cases) EXPECT_EQ(Enregistrement_Adif(test.line), test.record) << test.what;
+  for (const auto& [what, line, record] : cases) EXPECT_EQ(Enregistrement_Adif(line), record) << what;
 }
 
 TEST(AdifExport, BandsInAnyCase) {
@@ -161,25 +146,17 @@ TEST_F(AdifExportWindow, FromNumberToNumber) {
 }
 
 TEST_F(AdifExportWindow, AnErrorOfTheFilesIsToldAndTheWindowStays) {
-  const struct {
-    const char* access;
-    Erreur error;
-    std::string box;
-  } cases[] = {
+  const std::tuple<const char*, Erreur, std::string> cases[] = {
       {"write F9QZX_M.adi", Erreur::Disque_Non_Pret, "Erreur 71 Pas de disquette dans le lecteur"},
-      {"write F9QZX_M.adi", Erreur::Permission_Refusee,
-       "Erreur 70 Disquette proteg\xE9"
-       "e"},
+      {"write F9QZX_M.adi", Erreur::Permission_Refusee, "Erreur 70 Disquette protegée"_t},
       {"write F9QZX_M.adi", Erreur::Disque_Plein, "Erreur 61"},
-      {"read F9QZX_M.log", Erreur::Permission_Refusee,
-       "Erreur 70 Disquette proteg\xE9"
-       "e"},
+      {"read F9QZX_M.log", Erreur::Permission_Refusee, "Erreur 70 Disquette protegée"_t},
       {"read F9QZX_M.log", Erreur::Fichier_Introuvable, "Erreur 53"},
   };
-  for (const auto& test : cases) {
-    disk.FailOn(test.access, test.error);
+  for (const auto& [access, error, box] : cases) {
+    disk.FailOn(access, error);
     Export();
-    EXPECT_EQ(messages.TakeMessages(), Lines{test.box});
+    EXPECT_EQ(messages.TakeMessages(), Lines{box});
     EXPECT_NE(programme->Ouverte<Export_Adif>(), nullptr);
     EXPECT_FALSE(folder.Exists("F9QZX_M.adi"));
     disk.Mend();

@@ -25,11 +25,7 @@ std::string Columns(const std::string& line, const Champ& field) {
 }
 
 TEST(AdifRecord, FieldsOneByOne) {
-  struct {
-    const char* record;
-    Champ field;
-    const char* columns;
-  } const cases[] = {
+  const std::tuple<const char*, Champ, const char*> cases[] = {
       {"<QSO_DATE:4>2003<X>", champs::Date_A, "//03      "},
       {"<QSO_DATE:12>200305121234<X>", champs::Date_A, "12/05/03  "},
       {"<TIME_ON:3>905<X>", champs::Debut_A, "90:5   "},
@@ -61,15 +57,12 @@ TEST(AdifRecord, FieldsOneByOne) {
       {"<STATE:5>12345<X>", champs::Depart_A, "12345"},
       {"<STATE:2>AB<X>", champs::Depart_A, "     "},
   };
-  for (const auto& c : cases) EXPECT_EQ(Columns(Convert(c.record).ligne, c.field), c.columns) << c.record;
+  for (const auto& [record, field, columns] : cases)
+    EXPECT_EQ(Columns(Convert(record).ligne, field), columns) << record;
 }
 
 TEST(AdifRecord, Bands) {
-  struct {
-    const char* fields;
-    const char* band;
-    bool told;
-  } const cases[] = {
+  const std::tuple<const char*, const char*, bool> cases[] = {
       {"<BAND:4>160m", "1.8 Mhz", false},
       {"<BAND:3>80M", "3.5 Mhz", false},
       {"<BAND:5>13 cm", "1.8 Mhz", true},
@@ -102,45 +95,30 @@ TEST(AdifRecord, Bands) {
       {"<FREQ:6>10000.1", "10 Ghz", false},
       {"<FREQ:5>24000", "1.8 Mhz", true},
   };
-  for (const auto& c : cases) {
-    const auto read = Convert("<QSO_DATE:8>20030512<TIME_ON:4>1234<CALL:5>F6ABC" + std::string(c.fields) + "<EOR>");
-    EXPECT_EQ(Lit_Log(read.ligne, champs::Bande_A), c.band) << c.fields;
-    EXPECT_EQ(read.messages, c.told ? std::vector{kNo_Band} : std::vector<std::string>{}) << c.fields;
+  for (const auto& [fields, band, told] : cases) {
+    const auto read = Convert("<QSO_DATE:8>20030512<TIME_ON:4>1234<CALL:5>F6ABC" + std::string(fields) + "<EOR>");
+    EXPECT_EQ(Lit_Log(read.ligne, champs::Bande_A), band) << fields;
+    EXPECT_EQ(read.messages, told ? std::vector{kNo_Band} : std::vector<std::string>{}) << fields;
   }
 }
 
 TEST(AdifRecord, EveryValueOfTheBandTable) {
-  struct {
-    const char* band;
-    std::vector<const char*> values;
-  } const cases[] = {{"1.8 Mhz", {"160M", "1.8"}},
-                     {"3.5 Mhz", {"80M", "3.5", "3.6", "3"}},
-                     {"7.0 Mhz", {"40M", "7"}},
-                     {"10 Mhz", {"30M", "10"}},
-                     {"14 Mhz", {"20M", "14"}},
-                     {"18 Mhz", {"17M", "18"}},
-                     {"21 Mhz", {"15M", "21"}},
-                     {"24 Mhz", {"12M", "24"}},
-                     {"28 Mhz", {"10M", "28"}},
-                     {"50 Mhz", {"6M", "50"}},
-                     {"144 Mhz", {"2M", "144", "145"}},
-                     {"432 Mhz", {"70CM", "432"}},
-                     {"1.3 Ghz", {"23CM", "1300"}},
-                     {"2.3 Ghz", {"13CM", "2300"}},
-                     {"5.7 Ghz", {"6CM", "5660", "5700"}},
-                     {"10 Ghz", {"3CM", "10000"}},
-                     {"24 Ghz", {"1.25CM", "24000"}}};
-  for (const auto& c : cases)
-    for (const char* value : c.values) EXPECT_EQ(Bande_Importee(value), c.band) << value;
+  const std::pair<const char*, const char*> cases[] = {
+      {"160M", "1.8 Mhz"}, {"1.8", "1.8 Mhz"},   {"80M", "3.5 Mhz"},  {"3.5", "3.5 Mhz"},  {"3.6", "3.5 Mhz"},
+      {"3", "3.5 Mhz"},    {"40M", "7.0 Mhz"},   {"7", "7.0 Mhz"},    {"30M", "10 Mhz"},   {"10", "10 Mhz"},
+      {"20M", "14 Mhz"},   {"14", "14 Mhz"},     {"17M", "18 Mhz"},   {"18", "18 Mhz"},    {"15M", "21 Mhz"},
+      {"21", "21 Mhz"},    {"12M", "24 Mhz"},    {"24", "24 Mhz"},    {"10M", "28 Mhz"},   {"28", "28 Mhz"},
+      {"6M", "50 Mhz"},    {"50", "50 Mhz"},     {"2M", "144 Mhz"},   {"144", "144 Mhz"},  {"145", "144 Mhz"},
+      {"70CM", "432 Mhz"}, {"432", "432 Mhz"},   {"23CM", "1.3 Ghz"}, {"1300", "1.3 Ghz"}, {"13CM", "2.3 Ghz"},
+      {"2300", "2.3 Ghz"}, {"6CM", "5.7 Ghz"},   {"5660", "5.7 Ghz"}, {"5700", "5.7 Ghz"}, {"3CM", "10 Ghz"},
+      {"10000", "10 Ghz"}, {"1.25CM", "24 Ghz"}, {"24000", "24 Ghz"}};
+  for (const auto& [value, band] : cases) EXPECT_EQ(Bande_Importee(value), band) << value;
   for (const char* value : {"", "60M", "4M", "1296", "146", "XX MHZ", "1", "20"})
     EXPECT_EQ(Bande_Importee(value), "") << value;
 }
 
 TEST(AdifRecord, QslStatesAreCarriedOver) {
-  struct {
-    const char* fields;
-    char before, after;
-  } const cases[] = {
+  const std::tuple<const char*, char, char> cases[] = {
       {"", '4', '1'},
       {"<QSL_SENT:1>N<QSL_RCVD:1>N", '4', '1'},
       {"<QSL_SENT:1>y", '1', '2'},
@@ -157,11 +135,11 @@ TEST(AdifRecord, QslStatesAreCarriedOver) {
       {"<QSL_SENT_VIA:1>B<QSL_SENT:1>Y", '3', '3'},
       {"<QSL_RCVD_VIA:1>Y<QSL_SENT:1>Y", '1', '4'},
   };
-  for (const auto& c : cases) {
-    char state = c.before;
-    const auto read = Ligne_ADIF(kBase + c.fields + "<EOR>", state);
-    EXPECT_EQ(state, c.after) << c.fields;
-    EXPECT_EQ(read.ligne.substr(127, 9), Blancs(7) + c.after + " ") << c.fields;
+  for (const auto& [fields, before, after] : cases) {
+    char state = before;
+    const auto read = Ligne_ADIF(kBase + fields + "<EOR>", state);
+    EXPECT_EQ(state, after) << fields;
+    EXPECT_EQ(read.ligne.substr(127, 9), Blancs(7) + after + " ") << fields;
   }
 }
 
@@ -177,10 +155,7 @@ TEST(AdifRecord, DefaultsAndTheirMessages) {
 }
 
 TEST(AdifRecord, WhatStopsTheImport) {
-  struct {
-    const char* record;
-    std::vector<std::string> messages;
-  } const cases[] = {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
       {"<QSO_DATE:8>20030512", {}},
       {"<QSO_DATE:8", {}},
       {"<CALL:5>F6ABC<BAND:3>20M", {kNo_Date, kNo_Time}},
@@ -191,11 +166,11 @@ TEST(AdifRecord, WhatStopsTheImport) {
       {"<RST_SENT:11>59959959959<EOR>", {kNo_Date, kNo_Time, kNo_Call, kNo_Band}},
       {"<RST_RCVD:3>599<SRX:8>12345678<EOR>", {kNo_Date, kNo_Time, kNo_Call, kNo_Band}},
   };
-  for (const auto& c : cases) {
-    const auto read = Convert(c.record);
-    ASSERT_TRUE(read.erreur) << c.record;
-    EXPECT_EQ(*read.erreur, Erreur::Argument_Invalide) << c.record;
-    EXPECT_EQ(read.messages, c.messages) << c.record;
+  for (const auto& [record, messages] : cases) {
+    const auto read = Convert(record);
+    ASSERT_TRUE(read.erreur) << record;
+    EXPECT_EQ(*read.erreur, Erreur::Argument_Invalide) << record;
+    EXPECT_EQ(read.messages, messages) << record;
     EXPECT_EQ(read.ligne, "");
   }
 }
@@ -204,8 +179,7 @@ TEST(AdifFile, FindsItsRecordsBehindTheHeader) {
   struct {
     const char* text;
     std::vector<std::string_view> records;
-    const char* date;
-    const char* time;
+    const char *date, *time;
   } const cases[] = {
       {"ADIF export\r\n<PROGRAMID:4>Test\r\n<eoh>\r\n\r\n<QSO_DATE:8>20030512<TIME_ON:6>123456<EOR>\r\nb\n\nc",
        {"<QSO_DATE:8>20030512<TIME_ON:6>123456<EOR>", "b", "c"},

@@ -1,7 +1,5 @@
 #include "exchange/award_export.h"
 
-#include <gtest/gtest.h>
-
 #include "core/log_line.h"
 #include "entry/ddfm.h"
 #include "exchange/award_export_window.h"

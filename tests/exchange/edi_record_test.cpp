@@ -19,8 +19,7 @@ TEST(EdiRecord, MakesALine) {
 
 TEST(EdiRecord, FieldsOneByOne) {
   struct {
-    const char* record;
-    const char* band;
+    const char *record, *band;
     Champ field;
     const char* columns;
   } const cases[] = {
@@ -40,33 +39,16 @@ TEST(EdiRecord, FieldsOneByOne) {
 }
 
 TEST(EdiRecord, Modes) {
-  const std::pair<const char*, const char*> cases[] = {{"0", "AUTRE"},
-                                                       {"1", "SSB"},
-                                                       {"2", "CW"},
-                                                       {"3", "CW"},
-                                                       {"4", "CW"},
-                                                       {"5", "AM"},
-                                                       {"6", "FM"},
-                                                       {"7", "RTTY"},
-                                                       {"8", "SSTV"},
-                                                       {"9", "ATV"},
-                                                       {"10", "10"},
-                                                       {"-1", "-1"},
-                                                       {"2.5", "2.5"},
-                                                       // Whatever isn't a number counts as zero, as does an empty code.
-                                                       {"SSB", "AUTRE"},
-                                                       {"", "AUTRE"},
-                                                       {" 1", "SSB"},
-                                                       {"06", "FM"},
-                                                       {"1x", "SSB"}};
+  // Whatever isn't a number counts as zero, as does an empty code.
+  const std::pair<const char*, const char*> cases[] = {
+      {"0", "AUTRE"}, {"1", "SSB"},     {"2", "CW"},   {"3", "CW"},   {"4", "CW"},  {"5", "AM"},
+      {"6", "FM"},    {"7", "RTTY"},    {"8", "SSTV"}, {"9", "ATV"},  {"10", "10"}, {"-1", "-1"},
+      {"2.5", "2.5"}, {"SSB", "AUTRE"}, {"", "AUTRE"}, {" 1", "SSB"}, {"06", "FM"}, {"1x", "SSB"}};
   for (const auto& [code, mode] : cases) EXPECT_EQ(Mode_EDI(code), mode) << code;
 }
 
 TEST(EdiRecord, WhatStopsTheImport) {
-  struct {
-    const char* record;
-    const char* band;
-  } const cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"030512;1234;F9XKV;1;59;001;59;002;;JN33BB", ""},
       {"030512;1234;F9XKV;1;59;001;59;002", ""},
       {"030512;1234", ""},
@@ -78,15 +60,13 @@ TEST(EdiRecord, WhatStopsTheImport) {
       {"030512;1234;F9XKV;1234567890;59;001;59;002;;JN33BB;", ""},
       {"030512;1234;F9XKV;1;59;001;59;002;;JN33BB;", "144 MHz144 MHz"},
   };
-  for (const auto& c : cases) EXPECT_EQ(Ligne_EDI(c.record, c.band).erreur, Erreur::Argument_Invalide) << c.record;
+  for (const auto& [record, band] : cases)
+    EXPECT_EQ(Ligne_EDI(record, band).erreur, Erreur::Argument_Invalide) << record;
 }
 
 TEST(EdiFile, FindsBandMomentAndRecords) {
   struct {
-    const char* text;
-    const char* band;
-    const char* date;
-    const char* time;
+    const char *text, *band, *date, *time;
     std::vector<std::string_view> records;
   } const cases[] = {
       {"[REG1TEST;1]\r\nTName=Rallye\r\nTDate=20030510;20030511\r\nPCall=F9QZX\r\nPBand=144\r\n[Remarks]\r\nBeau "

@@ -14,8 +14,6 @@
 namespace vorelio::tests {
 namespace {
 
-using namespace Sous_Programmes;
-
 const std::string kMarker = "01/01/50  XXXXXX      12:00  12:05" + Blancs(164) + "*";
 const std::string kMarker_EDI = "01/01/50  XXXXXX      00:00  00:05" + Blancs(164) + "*";
 
@@ -54,12 +52,6 @@ class Imports : public StationFixture {
   void Adif_Lines(const Lines& records) { Import(Importe_ADIF, "<EOH>\r\n" + Joined(records)); }
   void Edi_Lines(const Lines& records) { Import(Importe_EDI, "PBand=144\r\n[QSORecords;1]\r\n" + Joined(records)); }
   void Ctf_Lines(const Lines& lines) { Import(Importe_CTF, Joined(lines)); }
-
-  static std::string Joined(const Lines& lines) {
-    std::string bytes;
-    for (const std::string& line : lines) bytes.append(line).append("\r\n");
-    return bytes;
-  }
 
   /// The callsigns in a file, in its order; "XXXXXX" is a marker, "-" an empty line.
   std::string Calls(const char* name) const {
@@ -104,11 +96,7 @@ TEST_F(Imports, TheBlockGoesInAtOnePlaceInItsOwnOrder) {
   const Lines log = {LogLine("01/01/99", "10:00", "A"), LogLine("12/05/03", "12:34", "B"),
                      LogLine("31/12/49", "23:59", "C")};
   const struct {
-    const char* date;
-    const char* time;
-    const char* adif;
-    const char* edi;
-    const char* ctf;
+    const char *date, *time, *adif, *edi, *ctf;
   } cases[] = {
       {"12/05/03", "12:33", "A N M B C ", "A N M B C ", "A N M B C "},
       {"12/05/03", "12:34", "A N M B C ", "A N M B C ", "A N M B C "},
@@ -257,13 +245,26 @@ TEST_F(Imports, TouchesTheDiskInThisOrder) {
   EXPECT_EQ(disk.Log()[3], "write Temporaire8.txt");
 }
 
+// A record over several lines isn't joined: each line is a record of its own, and lacks most fields.
+TEST_F(Imports, EachLineIsARecord) {
+  Start({});
+  Adif_Lines({"<QSO_DATE:8>20030513<TIME_ON:4>1200<CALL:5>F6BBB<BAND:3>20M<", "<MODE:3>SSB<STATE:2>06<", "<EOR>"});
+  const Lines told = messages.TakeMessages();
+  ASSERT_EQ(told.size(), 11U);
+  const Lines lacking = {"Date absente, remplacée par 01/01/2000"_t, "Heure absente, remplacée par 00:00"_t,
+                         "Indicatif absent, remplacé par FXXXX"_t, "Bande absente, remplacée par 1.8 Mhz"_t};
+  for (const std::size_t first : {0, 4}) EXPECT_TRUE(std::equal(lacking.begin(), lacking.end(), told.begin() + first));
+  EXPECT_EQ(Calls("F9QZX.log"), "F6BBB FXXXX FXXXX ");
+  EXPECT_EQ(Line("F9QZX.log", 2).substr(0, 68), "01/01/2000FXXXX       00:00  00:00  06           1.8 Mhz   SSB      ");
+  EXPECT_EQ(Status(), "Import ADIF : 3 enregistrements lus, 3 lignes ajoutées"_t);
+}
+
 TEST_F(Imports, FaultsOfTheDisk) {
   const std::string a = LogLine("12/05/03", "12:34", "A");
   const struct {
     const char* at;
     Erreur error;
-    const char* log;  ///< What stands of it and of the work file.
-    const char* work_file;
+    const char *log, *work_file;  ///< What stands of them.
   } cases[] = {
       {"append F9QZX.log", Erreur::Disque_Plein, "A ", ""},
       {"read in", Erreur::Fichier_Introuvable, "A XXXXXX ", ""},
@@ -355,9 +356,7 @@ TEST(OutsideText, IsUtf8OrWindows1252) {
 
 TEST(Century, HasTwoBorders) {
   const struct {
-    const char* year;
-    const char* from_50;
-    const char* from_51;
+    const char *year, *from_50, *from_51;
   } cases[] = {{"00", "2000", "2000"}, {"49", "2049", "2049"}, {"50", "1950", "2050"}, {"51", "1951", "1951"},
                {"99", "1999", "1999"}, {"-1", "-1", "-1"},     {"", "20", "20"},       {"ab", "20ab", "20ab"}};
   for (const auto& c : cases) {

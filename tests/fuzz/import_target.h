@@ -12,10 +12,6 @@
 #include "core/log_line.h"
 #include "core/programme.h"
 #include "core/text.h"
-#include "doubles/devices.h"
-#include "doubles/ready_station.h"
-#include "doubles/scratch_folder.h"
-#include "doubles/services.h"
 #include "entry/ddfm.h"
 #include "exchange/adif_import.h"
 #include "exchange/edi_import.h"
@@ -23,10 +19,9 @@
 #include "exchange/native_import.h"
 #include "fuzz/memory_disk.h"
 #include "support/contact.h"
+#include "support/outside.h"
 
 namespace vorelio::tests {
-
-using namespace doubles;
 
 /// One importer, fed with whole files: each goes into the same log of three contacts. What must hold is checked here,
 /// and a breach aborts, as fuzzers want it.
@@ -41,50 +36,33 @@ class ImportTarget {
     /// Whether all lines that come in are whole log lines.
     bool whole_lines;
     /// A file that goes well, to begin from.
-    const char* seed;
+    std::string seed;
   };
 
-  static const Importer& Adif() {
-    static const Importer importer{"ADIF",
-                                   Sous_Programmes::Importe_ADIF,
-                                   "Temporaire8.txt",
-                                   {5, 13, 62},
-                                   true,
-                                   "Export\r\n<EOH>\r\n"
-                                   "<CALL:5>F6ABC<QSO_DATE:8>20030512<TIME_ON:6>123456<TIME_OFF:4>1240<BAND:3>20M"
-                                   "<FREQ:6>14.195<MODE:3>SSB<RST_SENT:2>59<STX:3>001<RST_RCVD:2>59<SRX:1>2"
-                                   "<GRIDSQUARE:6>JN33BB<NAME:5>Ren\xC3\xA9<QTH:4>Nice<STATE:2>06<COMMENT:2>ok"
-                                   "<QSL_SENT:1>Y<QSL_RCVD:1>N<EOR>\r\n"
-                                   "<QSO_DATE:8>20491231<TIME_ON:4>0000<CALL:6>TK5AAA<BAND:2>2M<EOR>\r\n"};
-    return importer;
+  static Importer Adif() {
+    return {"ADIF", Sous_Programmes::Importe_ADIF, "Temporaire8.txt", {5, 13, 62}, true, kAdif};
   }
-  static const Importer& Edi() {
+  static Importer Edi() {
     // A mode code such as "1E999" is a number too large.
-    static const Importer importer{"EDI",
-                                   Sous_Programmes::Importe_EDI,
-                                   "Temporaire7.txt",
-                                   {5, 6, 13, 62},
-                                   true,
-                                   "[REG1TEST;1]\r\nTName=Rallye\r\nPCall=F9QZX\r\nPBand=144\r\n[Remarks]\r\n"
-                                   "[QSORecords;2]\r\n030512;1234;F9XKV;1;59;001;59;002;;JN33BB;12;;;;\r\n"
-                                   "030512;1235;DL1XYZ/P;2;599;002;599;017;;JO40AA;512;;;;\r\n"};
-    return importer;
+    return {"EDI", Sous_Programmes::Importe_EDI, "Temporaire7.txt", {5, 6, 13, 62}, true, kEdi};
   }
-  static const Importer& Native() {
-    static const std::string seed = Line("12/05/03", "14 Mhz") + "\r\n" + Line("13/05/03", "144 Mhz") + "\n";
-    static const Importer importer{"CTF",       Sous_Programmes::Importe_CTF, "Temporaire7.txt", {5, 13, 62}, false,
-                                   seed.c_str()};
-    return importer;
+  static Importer Native() {
+    return {"CTF",
+            Sous_Programmes::Importe_CTF,
+            "Temporaire7.txt",
+            {5, 13, 62},
+            false,
+            Line("12/05/03", "14 Mhz") + "\r\n" + Line("13/05/03", "144 Mhz") + "\n"};
   }
 
-  explicit ImportTarget(const Importer& importer) : importer_(importer) {
+  explicit ImportTarget(Importer importer) : importer_(std::move(importer)) {
     const ScratchFolder templates;
     CopyTemplates(templates.Path());
     for (const char* name : {"FXXXX.log", "FXXXX_Departement.txt", "FXXXX_Locator.txt", "FXXXX_Prefixe.txt"}) {
       templates_[Path(name)] = templates.Read(name);
       templates_[Path(kStation + std::string(name).substr(5))] = templates.Read(name);
     }
-    SeedStationSettings(settings_, kFolder, '/', kStation, "JN33BB");
+    SeedStationSettings(outside_.settings, kFolder, '/', kStation, "JN33BB");
     log_ = Line("12/05/02", "14 Mhz") + "\r\n" + Line("12/05/03", "144 Mhz") + "\r\n" + Line("31/12/49", "14 Mhz") +
            "\r\n";
     Start();
@@ -95,19 +73,30 @@ class ImportTarget {
     disk_.files = templates_;
     disk_.files[Path("in")] = file;
     disk_.files[Path("F9QZX.log")] = log_;
-    messages_.Forget();
-    dialogs_.calls.clear();
+    outside_.messages.Forget();
+    outside_.dialogs.calls.clear();
     windows_.events.clear();
-    messages_.fatal_number = 0;
-    dialogs_.Choose(Path("in"));
+    outside_.messages.fatal_number = 0;
+    outside_.dialogs.Choose(Path("in"));
     programme_->Recoit([&] { importer_.import(*programme_); });
-    const int error = messages_.fatal_number;
+    const int error = outside_.messages.fatal_number;
     Check(error);
     if (programme_->Termine_Deja()) Start();
     return error;
   }
 
  private:
+  static constexpr const char* kAdif =
+      "Export\r\n<EOH>\r\n"
+      "<CALL:5>F6ABC<QSO_DATE:8>20030512<TIME_ON:6>123456<TIME_OFF:4>1240<BAND:3>20M<FREQ:6>14.195<MODE:3>SSB"
+      "<RST_SENT:2>59<STX:3>001<RST_RCVD:2>59<SRX:1>2<GRIDSQUARE:6>JN33BB<NAME:5>Ren\xC3\xA9<QTH:4>Nice<STATE:2>06"
+      "<COMMENT:2>ok<QSL_SENT:1>Y<QSL_RCVD:1>N<EOR>\r\n"
+      "<QSO_DATE:8>20491231<TIME_ON:4>0000<CALL:6>TK5AAA<BAND:2>2M<EOR>\r\n";
+  static constexpr const char* kEdi =
+      "[REG1TEST;1]\r\nTName=Rallye\r\nPCall=F9QZX\r\nPBand=144\r\n[Remarks]\r\n"
+      "[QSORecords;2]\r\n030512;1234;F9XKV;1;59;001;59;002;;JN33BB;12;;;;\r\n"
+      "030512;1235;DL1XYZ/P;2;599;002;599;017;;JO40AA;512;;;;\r\n";
+
   static constexpr const char* kFolder = "/station";
   static constexpr const char* kStation = "F9QZX";
 
@@ -120,8 +109,7 @@ class ImportTarget {
   void Start() {
     disk_.files = templates_;
     disk_.files[Path("F9QZX.log")] = log_;
-    programme_ =
-        std::make_unique<Programme>(devices_.Join(settings_, messages_, dialogs_, clock_, windows_, disk_, kFolder));
+    programme_ = std::make_unique<Programme>(outside_.Join(windows_, disk_, kFolder));
     programme_->Recoit([&] { programme_->Fenetre<DDFM>(); });
   }
 
@@ -160,15 +148,11 @@ class ImportTarget {
             "a line that is no log line");
   }
 
-  const Importer& importer_;
+  const Importer importer_;
   std::map<std::string, std::string> templates_;
   std::string log_;
-  MapSettings settings_;
-  RecordedMessages messages_;
-  QueuedDialogs dialogs_;
-  FixedClock clock_;
+  Outside outside_;
   SilentWindows windows_;
-  Devices devices_;
   MemoryDisk disk_;
   std::unique_ptr<Programme> programme_;
 };

@@ -18,6 +18,13 @@ class Mutations {
   }
 
  private:
+  static constexpr std::string_view kMarks[] = {
+      "\r\n", "\n", "\r", "<", ">", ";", " ", "/", ":", "-", "99", "00", "\xE9", "\xC3\xA9", "\xEF\xBB\xBF", "1E999"};
+  static constexpr std::string_view kParts[] = {
+      "<EOH>\r\n",         "<STATE:0><",  "<STATE:2>0",       "01/01/50  XXXXXX",
+      "<FREQ:3>144",       "<FREQ:0>",    "<STX:9>123456789", "<MODE:12>LONGLONGLONG",
+      "PBand=144 MHz\r\n", "[QSORecords", "20510101"};
+
   std::size_t Place(std::string_view text) {
     return static_cast<std::size_t>(Below(static_cast<int>(text.size()) + 1));
   }
@@ -29,38 +36,16 @@ class Mutations {
     return noise;
   }
 
+  template <std::size_t N>
+  std::string_view OneOf(const std::string_view (&pieces)[N]) {
+    return pieces[random_() % N];
+  }
+
   void Mutate(std::string& file, std::string_view good) {
-    static constexpr std::string_view kPieces[] = {"\r\n",
-                                                   "\n",
-                                                   "\r",
-                                                   "<",
-                                                   ">",
-                                                   ";",
-                                                   "<EOH>\r\n",
-                                                   "<STATE:0><",
-                                                   "<STATE:2>0",
-                                                   " ",
-                                                   "/",
-                                                   ":",
-                                                   "1E999",
-                                                   "-",
-                                                   "01/01/50  XXXXXX",
-                                                   "<FREQ:3>144",
-                                                   "<FREQ:0>",
-                                                   "<STX:9>123456789",
-                                                   "<MODE:12>LONGLONGLONG",
-                                                   "PBand=144 MHz\r\n",
-                                                   "[QSORecords",
-                                                   "\xE9",
-                                                   "\xC3\xA9",
-                                                   "\xEF\xBB\xBF",
-                                                   "99",
-                                                   "00",
-                                                   "20510101"};
     const std::size_t place = Place(file), other = Place(good);
     switch (Below(6)) {
       case 0: file.erase(place, static_cast<std::size_t>(Below(20))); break;
-      case 1: file.insert(place, kPieces[static_cast<std::size_t>(Below(static_cast<int>(std::size(kPieces))))]); break;
+      case 1: file.insert(place, Below(2) == 0 ? OneOf(kMarks) : OneOf(kParts)); break;
       case 2: file.insert(place, good.substr(other, static_cast<std::size_t>(Below(80)))); break;
       case 3: file.resize(place); break;
       case 4:

@@ -5,42 +5,15 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <functional>
 #include <map>
-#include <memory>
 #include <random>
 
-#include "fuzz/cluster_page_target.h"
-#include "fuzz/import_target.h"
 #include "fuzz/mutations.h"
-
-namespace {
-
-using namespace vorelio::tests;
-
-/// What is fed, and a file that goes well.
-struct Target {
-  std::function<int(std::string_view)> run;
-  std::string seed;
-};
-
-Target TargetOf(const char* name) {
-  const auto importing = [](const ImportTarget::Importer& importer) {
-    const auto target = std::make_shared<ImportTarget>(importer);
-    return Target{[target](std::string_view file) { return target->Run(file); }, importer.seed};
-  };
-  if (std::strcmp(name, "adif") == 0) return importing(ImportTarget::Adif());
-  if (std::strcmp(name, "edi") == 0) return importing(ImportTarget::Edi());
-  if (std::strcmp(name, "native") == 0) return importing(ImportTarget::Native());
-  if (std::strcmp(name, "cluster") == 0) return {RunClusterPage, ClusterPageSeed()};
-  return {};
-}
-
-}  // namespace
+#include "fuzz/targets.h"
 
 int main(int argc, char** argv) {
-  const Target target = argc > 2 ? TargetOf(argv[1]) : Target{};
+  using namespace vorelio::tests;
+  const FuzzTarget target = argc > 2 ? TargetOf(argv[1]) : FuzzTarget{};
   if (!target.run) {
     std::fprintf(stderr, "usage: import_fuzz adif|edi|native|cluster SECONDS [SEED]\n");
     return 2;

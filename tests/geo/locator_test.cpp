@@ -1,14 +1,10 @@
 #include "geo/locator.h"
 
-#include <gtest/gtest.h>
-
 #include "support/error_of.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
 namespace {
-
-using namespace Sous_Programmes;
 
 class LocatorTest : public StationFixture {};
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "entry/ddfm.h"
 #include "maintenance/activities.h"
 #include "maintenance/add_activity_window.h"
@@ -8,8 +6,6 @@
 
 namespace vorelio::tests {
 namespace {
-
-using namespace Sous_Programmes;
 
 constexpr const char* kSection = "Setup F6ABC";
 
@@ -52,26 +48,22 @@ TEST_F(ActivitiesTest, ACountThatNoListHoldsIsAnError) {
 }
 
 TEST_F(ActivitiesTest, WithoutAReadableBackupTheProgramEnds) {
-  const struct {
-    bool has_path;
-    Erreur error;
-    std::string box;
-  } cases[] = {
+  const std::tuple<bool, Erreur, std::string> cases[] = {
       {true, Erreur::Fichier_Introuvable, "Fichier F6ABC_Prefixe.txt Absent"},
       {false, Erreur::Fichier_Introuvable, "Fichier F6ABC_Prefixe.txt Absent"},
       {true, Erreur::Disque_Non_Pret, "Erreur N\xB0 71"},
   };
-  for (const auto& test : cases) {
+  for (const auto& [has_path, error, box] : cases) {
     Restart();
     ReadyStation();
-    if (!test.has_path) settings.Remove("DDFM", kSection, "Chemin Sauvegarde");
+    if (!has_path) settings.Remove("DDFM", kSection, "Chemin Sauvegarde");
     disk.Forget();
-    disk.FailOn("read", test.error);
+    disk.FailOn("read", error);
     Event([&] { programme->Fenetre<Restoration_Activite>().Show(); });
-    EXPECT_EQ(messages.TakeMessages(), Lines{test.box});
+    EXPECT_EQ(messages.TakeMessages(), Lines{box});
     EXPECT_TRUE(programme->Termine_Deja());
     EXPECT_EQ(programme->Erreur_Fatale(), 0);
-    EXPECT_EQ(disk.Log(), Lines{test.has_path ? "read F6ABC_Activite.bak" : "read X:/XXXXXXX_Activite.bak"});
+    EXPECT_EQ(disk.Log(), Lines{has_path ? "read F6ABC_Activite.bak" : "read X:/XXXXXXX_Activite.bak"});
     disk.Mend();
   }
 }

@@ -1,13 +1,10 @@
 #include "maintenance/backup.h"
 
-#include <gtest/gtest.h>
-
+#include "core/text.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
 namespace {
-
-using namespace Sous_Programmes;
 
 constexpr const char* kSection = "Setup F6ABC";
 
@@ -31,8 +28,7 @@ TEST_F(BackupTest, FiveFilesInOrderOverOldCopies) {
   Write("sauve/F6.bak", "older and longer");
   programme->contexte.Chemin_Sauvegarde = "elsewhere";
   Save();
-  EXPECT_EQ(messages.TakeMessages(), Lines{"Sauvegarde automatique effectu\xE9"
-                                           "e"});
+  EXPECT_EQ(messages.TakeMessages(), Lines{"Sauvegarde automatique effectuée"_t});
   EXPECT_EQ(disk.Log(),
             (Lines{"copy F6ABC.log sauve/F6.bak", "copy F6ABC_Departement.txt sauve/F6_Departement.bak",
                    "copy F6ABC_Locator.txt sauve/F6_Locator.bak", "copy F6ABC_Prefixe.txt sauve/F6_Prefixe.bak",

@@ -36,20 +36,17 @@ TEST(Scenario, CommandsWithTheirLinesAndBlocks) {
 }
 
 TEST(Scenario, WhatCantBeReadNamesItsLine) {
-  const struct {
-    const char* text;
-    int line;
-    const char* error;
-  } cases[] = {{"start\ntype A \"open", 2, "a text without its closing quote"},
-               {"type A \"x\\t\"", 1, "unknown escape \\t"},
-               {"| a line", 1, "a line of a file without its command"}};
-  for (const auto& wrong : cases) {
+  const std::tuple<const char*, int, const char*> cases[] = {
+      {"start\ntype A \"open", 2, "a text without its closing quote"},
+      {"type A \"x\\t\"", 1, "unknown escape \\t"},
+      {"| a line", 1, "a line of a file without its command"}};
+  for (const auto& [text, line, says] : cases) {
     try {
-      ParseScenario("x.scn", wrong.text);
-      FAIL() << wrong.text;
+      ParseScenario("x.scn", text);
+      FAIL() << text;
     } catch (const ParseError& error) {
-      EXPECT_EQ(error.line, wrong.line);
-      EXPECT_EQ(error.text, wrong.error);
+      EXPECT_EQ(error.line, line);
+      EXPECT_EQ(error.text, says);
     }
   }
 }

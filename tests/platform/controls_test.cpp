@@ -1,7 +1,5 @@
 #include "platform/controls.h"
 
-#include <gtest/gtest.h>
-
 #include "core/programme.h"
 #include "core/text.h"
 #include "support/error_of.h"
@@ -95,8 +93,7 @@ TEST_F(Controls, SetTextFiresNothingAndStandsSelected) {
 TEST_F(Controls, KeysJoinAtTheCaret) {
   struct {
     int caret, length;
-    const char* keys;
-    const char* text;
+    const char *keys, *text;
     int after;
   } const cases[] = {{0, 0, "x", "xab", 1}, {2, 0, "x", "abx", 3}, {0, 1, "xy", "xyb", 2},
                      {1, 9, "x", "ax", 2},  {9, 0, "x", "abx", 3}, {-1, 0, "x", "xab", 1}};
@@ -279,7 +276,7 @@ TEST_F(Controls, KeysInComboBoxes) {
 
 // --- Buttons --------------------------------------------------------------------------------------------------------
 
-TEST_F(Controls, OptionButtonsExcludeEachOtherInTheirGroup) {
+TEST_F(Controls, ButtonsClickAtEachChangeAndOptionsExcludeEachOther) {
   page.other.SetOn();
   page.two.SetOn();
   page.two.SetOn();
@@ -288,9 +285,7 @@ TEST_F(Controls, OptionButtonsExcludeEachOtherInTheirGroup) {
   EXPECT_FALSE(page.one.Set());
   EXPECT_TRUE(page.two.Set());
   EXPECT_TRUE(page.other.Set());
-}
 
-TEST_F(Controls, CheckBoxClicksAtEachChange) {
   page.box.SetChecked(true);
   page.box.SetChecked(true);
   Event([&] { page.box.UserClick(); });
@@ -308,21 +303,19 @@ TEST_F(Controls, UnreachableControlsTakeNothing) {
     Event([&] { page.two.UserClick(); });
     Event([&] { page.box.UserClick(); });
   };
-  const auto each = [&](auto set) {
-    for (Control* control : page.Controls()) set(*control);
+  const auto each = [&](void (Control::*set)(bool), bool on) {
+    for (Control* control : page.Controls()) (control->*set)(on);
   };
-  const std::pair<std::function<void()>, std::function<void()>> obstacles[] = {
-      {[&] { each([](Control& c) { c.SetEnabled(false); }); }, [&] { each([](Control& c) { c.SetEnabled(true); }); }},
-      {[&] { each([](Control& c) { c.SetVisible(false); }); }, [&] { each([](Control& c) { c.SetVisible(true); }); }},
-      {[&] { page.Hide(); }, [&] { page.Show(); }},
-  };
-  for (const auto& [put, take] : obstacles) {
-    put();
+  const std::function<void(bool)> reaches[] = {[&](bool on) { each(&Control::SetEnabled, on); },
+                                               [&](bool on) { each(&Control::SetVisible, on); },
+                                               [&](bool on) { on ? page.Show() : page.Hide(); }};
+  for (const auto& reach : reaches) {
+    reach(false);
     poke();
     EXPECT_EQ(Events(), Lines{});
     EXPECT_EQ(page.field.Text(), "ab");
     EXPECT_EQ(programme->Focus(), nullptr);
-    take();
+    reach(true);
   }
   poke();
   EXPECT_EQ(Events(), (Lines{"key 120", "button", "sorted 0", "double 0", "sorted 0", "two", "box on"}));

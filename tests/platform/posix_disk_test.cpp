@@ -295,28 +295,22 @@ TEST_F(Posix_Disk, GoesOnWhereTheSystemAsksForIt) {
 
 TEST_F(Posix_Disk, FlushesInTheOrderThatAPowerCutAsksFor) {
   const std::string here = fs::path(scratch_.Path()).filename().string();
-  Watch();
-  disk_.WriteAll(Path("old"), "0123456789abcdef");
-  EXPECT_EQ((std::vector<std::string>{"fallocate old", "pwrite old", "pwrite old", "ftruncate old", "fsync old"}),
-            calls.log);
-  Watch();
-  disk_.WriteAll(Path("old"), "short");
-  EXPECT_EQ((std::vector<std::string>{"fallocate old", "pwrite old", "ftruncate old", "fsync old"}), calls.log);
-  Watch();
-  disk_.WriteAll(Path("new"), "short");
-  EXPECT_EQ((std::vector<std::string>{"fallocate new", "pwrite new", "ftruncate new", "fsync new", "fsync " + here}),
-            calls.log);
-  Watch();
-  disk_.Append(Path("new"), "line");
-  EXPECT_EQ((std::vector<std::string>{"fsync new"}), calls.log);
-  Watch();
-  disk_.Append(Path("newer"), "line");
-  EXPECT_EQ((std::vector<std::string>{"fsync newer", "fsync " + here}), calls.log);
-  Watch();
-  disk_.Copy(Path("old"), Path("copy"));
-  EXPECT_EQ(
-      (std::vector<std::string>{"fallocate copy", "pwrite copy", "ftruncate copy", "fsync copy", "fsync " + here}),
-      calls.log);
+  const auto calls_of = [](const std::function<void()>& action) {
+    Watch();
+    action();
+    return calls.log;
+  };
+  using Log = std::vector<std::string>;
+  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("old"), "0123456789abcdef"); }),
+            (Log{"fallocate old", "pwrite old", "pwrite old", "ftruncate old", "fsync old"}));
+  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("old"), "short"); }),
+            (Log{"fallocate old", "pwrite old", "ftruncate old", "fsync old"}));
+  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("new"), "short"); }),
+            (Log{"fallocate new", "pwrite new", "ftruncate new", "fsync new", "fsync " + here}));
+  EXPECT_EQ(calls_of([&] { disk_.Append(Path("new"), "line"); }), Log{"fsync new"});
+  EXPECT_EQ(calls_of([&] { disk_.Append(Path("newer"), "line"); }), (Log{"fsync newer", "fsync " + here}));
+  EXPECT_EQ(calls_of([&] { disk_.Copy(Path("old"), Path("copy")); }),
+            (Log{"fallocate copy", "pwrite copy", "ftruncate copy", "fsync copy", "fsync " + here}));
 }
 
 TEST_F(Posix_Disk, FindsFilesByTheirAccentsAndInFoldersOutsideTheCharacterSet) {

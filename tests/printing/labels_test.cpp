@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "core/errors.h"
 #include "core/log_line.h"
 #include "core/text.h"
@@ -50,11 +48,8 @@ TEST(LabelTest, EveryLineIsCentredForItsSideAndSheet) {
 }
 
 TEST(LabelTest, ATitleThatIsTooLongIsRefused) {
-  const struct {
-    int sheet;
-    Cote side;
-    std::size_t longest;
-  } cases[] = {{0, Cote::Gauche, 20}, {2, Cote::Droite, 20}, {3, Cote::Gauche, 19}, {3, Cote::Droite, 21}};
+  const std::tuple<int, Cote, std::size_t> cases[] = {
+      {0, Cote::Gauche, 20}, {2, Cote::Droite, 20}, {3, Cote::Gauche, 19}, {3, Cote::Droite, 21}};
   for (const auto& [sheet, side, longest] : cases) {
     const Titre_Etiquette& title = kFeuilles[static_cast<std::size_t>(sheet)].titre;
     const auto compose = [&, side = side](std::size_t length) {

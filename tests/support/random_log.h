@@ -20,7 +20,7 @@ class RandomLog {
   std::string Line() {
     Champs_QSO qso;
     qso.Date_A = "12/05/03";
-    qso.Debut_A = "10:" + Two(Below(60));
+    qso.Debut_A = "10:" + Deux_Chiffres(Below(60));
     qso.Indicatif_A = Pick({"F6ABC", "DL1XYZ", "TK5AAA", "1ZZZ", "KH6AA", "EA8BB", "JA1CC", "ON4DD/P", "", "F"});
     qso.Depart_A = Pick({"06", "2a", "2B", "96", "", "33", "00", "1", "ab"});
     qso.Locator_A = Pick({"JN33BB", "", "JN18", "IO91AA", "HM12AA", "jn33bb", "KO99ZZ"});
@@ -45,8 +45,6 @@ class RandomLog {
   }
 
  private:
-  static std::string Two(int number) { return Deux_Chiffres(number); }
-
   std::mt19937 random_;
 };
 

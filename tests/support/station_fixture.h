@@ -9,28 +9,23 @@
 
 #include "core/programme.h"
 #include "core/station_files.h"
-#include "doubles/devices.h"
-#include "doubles/ready_station.h"
-#include "doubles/scratch_folder.h"
-#include "doubles/services.h"
 #include "platform/posix_disk.h"
 #include "support/logging_disk.h"
+#include "support/outside.h"
 
 namespace vorelio::tests {
 
-using namespace doubles;
-
-using Lines = std::vector<std::string>;
+using namespace Sous_Programmes;
 
 /// A scratch program directory as the program is delivered, doubles of every service, and a run over them. A test that
 /// wants a station calls `ReadyStation`; one that wants the first run doesn't.
-class StationFixture : public ::testing::Test {
+class StationFixture : public ::testing::Test, protected Outside {
  protected:
   StationFixture() { CopyTemplates(folder.Path()); }
 
   /// A station as the first run leaves it: files, settings, and the context of the run.
   void ReadyStation(const std::string& call = "F6ABC", const std::string& locator = "JN33BB") {
-    Sous_Programmes::Cree_Fichiers_Station(*programme, call);
+    Cree_Fichiers_Station(*programme, call);
     disk.Forget();
     SeedStationSettings(settings, folder.Path(), '/', call, locator);
     programme->contexte.Station_Indicatif = call;
@@ -38,17 +33,18 @@ class StationFixture : public ::testing::Test {
   }
 
   /// Ends the run and begins another on the same directory and settings.
-  void Restart() { programme = std::make_unique<Programme>(MakePlatform()); }
+  void Restart() { programme = std::make_unique<Programme>(Join(windows, disk, folder.Path())); }
 
   /// The bytes of a file of the program directory; the empty text where there is none.
   std::string Read(std::string_view name) const { return folder.Read(name); }
   void Write(std::string_view name, std::string_view bytes) const { folder.Write(name, bytes); }
-  /// A file with these lines, each ended by CR LF.
-  void WriteLines(std::string_view name, const Lines& lines) const {
+  /// Lines as they stand in a file, each ended by CR LF.
+  static std::string Joined(const Lines& lines) {
     std::string bytes;
     for (const std::string& line : lines) bytes.append(line).append("\r\n");
-    Write(name, bytes);
+    return bytes;
   }
+  void WriteLines(std::string_view name, const Lines& lines) const { Write(name, Joined(lines)); }
   /// Line `number` from 1, without its CR LF; the empty text past the end.
   std::string Line(std::string_view name, int number) const {
     const std::string bytes = Read(name);
@@ -67,20 +63,12 @@ class StationFixture : public ::testing::Test {
   }
 
   ScratchFolder folder;
-  MapSettings settings;
-  RecordedMessages messages;
-  QueuedDialogs dialogs;
-  FixedClock clock;
   SilentWindows windows;
-  Devices devices;
   PosixDisk posix_disk;
   LoggingDisk disk{posix_disk, folder.Path()};
 
   // Last: a run uses the services to its end.
-  std::unique_ptr<Programme> programme = std::make_unique<Programme>(MakePlatform());
-
- private:
-  Platform MakePlatform() { return devices.Join(settings, messages, dialogs, clock, windows, disk, folder.Path()); }
+  std::unique_ptr<Programme> programme = std::make_unique<Programme>(Join(windows, disk, folder.Path()));
 };
 
 }  // namespace vorelio::tests

@@ -1,14 +1,10 @@
 #include "tallies/callsign_directory.h"
 
-#include <gtest/gtest.h>
-
 #include "support/station_fixture.h"
 #include "tallies/directory_window.h"
 
 namespace vorelio::tests {
 namespace {
-
-using namespace Sous_Programmes;
 
 constexpr const char* kFile = "Nomenclature.txt";
 

@@ -1,7 +1,5 @@
 #include "tallies/locator_tally.h"
 
-#include <gtest/gtest.h>
-
 #include "core/error_window.h"
 #include "entry/ddfm.h"
 #include "support/station_fixture.h"
@@ -9,16 +7,16 @@
 namespace vorelio::tests {
 namespace {
 
-using namespace Sous_Programmes;
-
 constexpr const char* kFile = "F6ABC_Locator.txt";
 
 class LocatorTallyTest : public StationFixture {
  protected:
   LocatorTallyTest() { ReadyStation(); }
 
-  void Look(std::string_view locator, std::string_view band) {
+  /// What a look-up leaves in its two outputs.
+  std::string Look(std::string_view locator, std::string_view band) {
     Event([&] { Cherche_Locator(*programme, locator, code, band, line); });
+    return code + "|" + line;
   }
   void Paint(std::string_view band, std::string_view field) {
     Event([&] { Affiche_Locators(*programme, band, field, total); });
@@ -31,20 +29,15 @@ class LocatorTallyTest : public StationFixture {
 
 TEST_F(LocatorTallyTest, LookUpByTheFirstFourCharacters) {
   WriteLines(kFile, {"JN33 12345670 tail", "JN33 00000000", "JN34 0"});
-  Look("JN33BB", "144 Mhz");
-  EXPECT_EQ(code + "|" + line, "2|JN33 12345670 tail");
-  Look("JN33", "24 Ghz");
-  EXPECT_EQ(code, "0");
-  Look("JN34AA", "432 Mhz");
-  EXPECT_EQ(code + "|" + line, "|JN34 0");
+  EXPECT_EQ(Look("JN33BB", "144 Mhz"), "2|JN33 12345670 tail");
+  EXPECT_EQ(Look("JN33", "24 Ghz"), "0|JN33 12345670 tail");
+  EXPECT_EQ(Look("JN34AA", "432 Mhz"), "|JN34 0");
 
   code = "?";
   line = "old";
-  Look("HM12AA", "144 Mhz");
-  EXPECT_EQ(code + "|" + line, "?|old");
+  EXPECT_EQ(Look("HM12AA", "144 Mhz"), "?|old");
   // A band without a column empties the code, and gives the line.
-  Look("JN33BB", "14 Mhz");
-  EXPECT_EQ(code + "|" + line, "|JN33 12345670 tail");
+  EXPECT_EQ(Look("JN33BB", "14 Mhz"), "|JN33 12345670 tail");
 }
 
 TEST_F(LocatorTallyTest, LookUpWithoutTheFileOpensTheErrorWindow) {

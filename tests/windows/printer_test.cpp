@@ -166,14 +166,8 @@ TEST_P(Labels, StayOnTheirSheets) {
       for (std::size_t w = 0; w < lines[i].size(); ++w) {
         const QRectF label = kSheets[sheet].Label(row, w < on_left ? 0 : 1);
         const QRectF& mm = lines[i][w].mm;
-        const QString seen = QStringLiteral("%1: %2 %3 - %4 %5, row %6")
-                                 .arg(lines[i][w].text)
-                                 .arg(mm.left())
-                                 .arg(mm.top())
-                                 .arg(mm.right())
-                                 .arg(mm.bottom())
-                                 .arg(row);
-        EXPECT_TRUE(label.contains(mm)) << qPrintable(seen);
+        EXPECT_TRUE(label.contains(mm)) << qPrintable(lines[i][w].text) << ": " << mm.left() << " " << mm.top() << " - "
+                                        << mm.right() << " " << mm.bottom() << ", row " << row;
       }
     }
   }

@@ -63,20 +63,14 @@ class SeenDialogs : public QtFileDialogs {
   }
 };
 
-/// Counts events of one kind.
-class EventCount : public QObject {
- public:
-  EventCount(QObject* watched, QEvent::Type kind, int& count) : QObject(watched), kind_(kind), count_(count) {
-    watched->installEventFilter(this);
-  }
+/// Counts how often a window is hidden.
+struct Hides : QObject {
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == kind_) ++count_;
+    if (event->type() == QEvent::Hide) ++count;
     return false;
   }
 
- private:
-  QEvent::Type kind_;
-  int& count_;
+  int count = 0;
 };
 
 struct MainBench : WindowsBench {
@@ -104,11 +98,11 @@ using LookTest = On<LookBench>;
 
 // Hiding and showing within one procedure leaves the window alone.
 TEST_F(QtWindowsTest, AQuickLoadDoesNotFlicker) {
-  int hides = 0;
-  EventCount counter(window, QEvent::Hide, hides);
+  Hides hides;
+  window->installEventFilter(&hides);
   windows.Deliver(programme, [&] { Sous_Programmes::Charge_Log(programme, "F9QZX"); });
   QCoreApplication::processEvents();
-  EXPECT_EQ(hides, 0);
+  EXPECT_EQ(hides.count, 0);
   EXPECT_TRUE(window->isVisible());
 }
 

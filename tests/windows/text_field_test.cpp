@@ -102,14 +102,11 @@ TEST_F(TextFieldTest, ShortcutsTypeNothing) {
 }
 
 TEST_F(TextFieldTest, Pastes) {
-  const struct {
-    QString pasted, text;
-    int notices;
-  } cases[] = {{QStringLiteral("jn33bb"), QStringLiteral("jn33bb"), 0},
-               {QStringLiteral("a\r\nb\nc"), QStringLiteral("a b c"), 0},
-               // Decomposed.
-               {QStringLiteral("Ele\u0300ne"), QStringLiteral("Elène"), 0},
-               {QStringLiteral("abc Москва"), QString(), 1}};
+  const std::tuple<QString, QString, int> cases[] = {{QStringLiteral("jn33bb"), QStringLiteral("jn33bb"), 0},
+                                                     {QStringLiteral("a\r\nb\nc"), QStringLiteral("a b c"), 0},
+                                                     // Decomposed.
+                                                     {QStringLiteral("Ele\u0300ne"), QStringLiteral("Elène"), 0},
+                                                     {QStringLiteral("abc Москва"), QString(), 1}};
   for (const auto& [pasted, text, notices] : cases) {
     FieldBench bench;
     int keys = 0;

@@ -14,27 +14,26 @@
 
 #include "core/programme.h"
 #include "core/station_files.h"
-#include "doubles/devices.h"
-#include "doubles/ready_station.h"
-#include "doubles/scratch_folder.h"
-#include "doubles/services.h"
 #include "platform/posix_disk.h"
 #include "platform/qt/binder.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/qt_windows.h"
 #include "platform/qt/window_extras.h"
+#include "support/outside.h"
 
 namespace vorelio::tests {
-
-using namespace doubles;
 
 /// A test on a bench of its own.
 template <typename Bench>
 class On : public ::testing::Test, public Bench {};
 
 /// A program on the real windows, with doubles for all else and a station of its own.
-struct WindowsBench {
-  WindowsBench();
+struct WindowsBench : Outside {
+  WindowsBench() {
+    CopyTemplates(folder.Path());
+    Sous_Programmes::Cree_Fichiers_Station(programme, "F9QZX");
+    SeedStationSettings(settings, folder.Path(), '/', "F9QZX", "JN33BB");
+  }
 
   template <typename F>
   F& Open() {
@@ -44,14 +43,9 @@ struct WindowsBench {
   }
 
   ScratchFolder folder;
-  MapSettings settings;
-  RecordedMessages messages;
-  QueuedDialogs dialogs;
-  FixedClock clock;
-  Devices devices;
   PosixDisk disk;
   QtWindows windows;
-  Programme programme;
+  Programme programme{Join(windows, disk, folder.Path())};
 };
 
 /// What the program itself adds to its windows, such as the view menu, and what it remembers of them.
@@ -96,8 +90,8 @@ class TestForm : public Form {
 
 /// A form of the test's own, bound to widgets of the test's own.
 template <typename F>
-struct ControlBench {
-  ControlBench() : programme(devices.Join(settings, messages, dialogs, clock, screen, disk, folder.Path())) {
+struct ControlBench : Outside {
+  ControlBench() {
     programme.Recoit([this] { programme.Fenetre<F>().Show(); });
     new QVBoxLayout(&window);
   }
@@ -120,15 +114,10 @@ struct ControlBench {
   }
 
   ScratchFolder folder;
-  MapSettings settings;
-  RecordedMessages messages;
-  QueuedDialogs dialogs;
-  FixedClock clock;
-  Devices devices;
   SilentWindows screen;
   PosixDisk disk;
   OpenGate gate;
-  Programme programme;
+  Programme programme{Join(screen, disk, folder.Path())};
   QWidget window;
   std::unique_ptr<Binding> binding;
 };
