@@ -109,7 +109,7 @@ TEST_F(AccessTest, MnemonicsDoNotClash) {
     const auto take = [&](const QString& text) {
       const QString letter = Mnemonic(text);
       if (letter.isEmpty()) return;
-      EXPECT_TRUE(!taken.contains(letter)) << qPrintable(text + QStringLiteral(" / ") + taken[letter]);
+      EXPECT_FALSE(taken.contains(letter)) << qPrintable(text + QStringLiteral(" / ") + taken[letter]);
       taken[letter] = text;
     };
     for (const auto* label : bound.Window().findChildren<QLabel*>())
@@ -119,7 +119,7 @@ TEST_F(AccessTest, MnemonicsDoNotClash) {
       for (const auto* entry : main->menuBar()->actions()) take(entry->text());
     // Nothing of a menu can be reached by a letter but by its own.
     for (const QMenu* menu : bound.Window().findChildren<QMenu*>()) {
-      EXPECT_TRUE(!Mnemonic(menu->title()).isEmpty()) << qPrintable(menu->title());
+      EXPECT_FALSE(Mnemonic(menu->title()).isEmpty()) << qPrintable(menu->title());
       std::set<QString> within;
       for (const QAction* entry : menu->actions())
         if (!entry->isSeparator())

@@ -79,7 +79,7 @@ TEST_F(CaptionTest, CaptionsComeFromTheModel) {
 TEST_F(CaptionTest, ARefusedClickLeavesTheTickAsItWas) {
   form().Hide();
   tick->click();
-  EXPECT_TRUE(!tick->isChecked());
+  EXPECT_FALSE(tick->isChecked());
   form().Show();
   tick->click();
   EXPECT_TRUE(tick->isChecked() && form().Coche.Checked());
@@ -115,13 +115,13 @@ TEST_F(MenuTest, AMenuOfHiddenEntriesIsHidden) {
   form().Non.SetVisible(false);
   EXPECT_TRUE(!inner->menuAction()->isVisible() && menu->menuAction()->isVisible());
   form().Seule.SetVisible(false);
-  EXPECT_TRUE(!menu->menuAction()->isVisible());
+  EXPECT_FALSE(menu->menuAction()->isVisible());
   form().Non.SetVisible(true);
   EXPECT_TRUE(inner->menuAction()->isVisible() && menu->menuAction()->isVisible());
   // Qt ticks an entry by itself; the model hasn't.
   yes->trigger();
   EXPECT_TRUE(yes->isChecked());
-  EXPECT_TRUE(!lone->isVisible());
+  EXPECT_FALSE(lone->isVisible());
 }
 
 }  // namespace

@@ -69,7 +69,7 @@ TEST_F(ComboTest, TheWheelLeavesItAlone) {
   QWheelEvent turn(QPointF(5, 5), choice->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
   QApplication::sendEvent(choice, &turn);
   EXPECT_TRUE(form().clicks.empty());
-  EXPECT_TRUE(!turn.isAccepted());
+  EXPECT_FALSE(turn.isAccepted());
 }
 
 TEST_F(ComboTest, TypingReplacesAChosenTextAndJoinsATypedOne) {
@@ -99,7 +99,7 @@ TEST_F(ComboTest, EnterIsAKeyAndOpensNothing) {
   for (QComboBox* combo : {open, choice}) {
     combo->setFocus();
     QTest::keyClick(combo, Qt::Key_Return);
-    EXPECT_TRUE(!combo->view()->isVisible());
+    EXPECT_FALSE(combo->view()->isVisible());
   }
   EXPECT_EQ(form().keys, (std::vector<int>{13, 13}));
   EXPECT_EQ(open->count(), 3);

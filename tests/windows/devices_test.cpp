@@ -203,7 +203,7 @@ TEST(DevicesTest, EveryByteGoesThrough) {
   EXPECT_EQ(cfgetospeed(&state), static_cast<speed_t>(B4800));
   port.ClearInput();
   port.Close();
-  EXPECT_TRUE(!port.IsOpen());
+  EXPECT_FALSE(port.IsOpen());
 }
 
 TEST(DevicesTest, PortsThatFail) {

@@ -176,7 +176,7 @@ TEST_F(ListTest, TicksAreTickedByMouseAndKey) {
   EXPECT_TRUE(form().Cochee.Checked(1));
   gate.Refresh();
   QTest::keyClick(ticks, Qt::Key_Space);
-  EXPECT_TRUE(!form().Cochee.Checked(1));
+  EXPECT_FALSE(form().Cochee.Checked(1));
   EXPECT_TRUE(form().keys.empty());
   form().Cochee.UserTick(3);
   EXPECT_EQ(ticks->model()->index(3, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));

@@ -88,7 +88,7 @@ TEST(PictureBoardTest, TheSizeIsChosenByTheScale) {
 TEST_F(PictureTest, AMissingImageLeavesTheCells) {
   Carte_JN& map = Open<Carte_JN>();
   const QImage seen = windows.WidgetOf(map.Picture1)->grab().toImage();
-  EXPECT_TRUE(!seen.isNull());
+  EXPECT_FALSE(seen.isNull());
   EXPECT_TRUE(windows.WidgetOf(map.Dep(57))->isVisible());
   EXPECT_EQ(programme.Erreur_Fatale(), 0);
 }

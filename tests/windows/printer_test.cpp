@@ -145,7 +145,7 @@ TEST_P(Labels, StayOnTheirSheets) {
   });
   EXPECT_EQ(run.Erreur_Fatale(), 0);
   EXPECT_EQ(QFile::exists(File("Etiquettes-2.pdf")), count > 16);
-  EXPECT_TRUE(!QFile::exists(File("Etiquettes-3.pdf")));
+  EXPECT_FALSE(QFile::exists(File("Etiquettes-3.pdf")));
 
   const Textes_Etiquette texts{"F9QZX_P", "FT-847 + ampli.", "2 x 9 element"};
   for (int first = 0; first < count; first += 16) {
@@ -204,7 +204,7 @@ TEST_F(PrinterTest, EachJobHasItsFileAndADiscardedOneHasNone) {
   Print({"une"}, font);
   // Cancelled: on goes the printer last in force, and what it has printed stays.
   printer.answer.clear();
-  EXPECT_TRUE(!printer.Choose());
+  EXPECT_FALSE(printer.Choose());
   Print({"deux"}, font);
   EXPECT_EQ(Read(File("Essai.pdf"))[0][0].text, QStringLiteral("une"));
   EXPECT_EQ(folder.Read("Essai-2.pdf"), std::string("d'un autre jour"));
@@ -222,7 +222,7 @@ TEST_F(PrinterTest, WhatCannotBePrintedFails) {
   AnsweredPrinter none(windows, messages);
   EXPECT_EQ(ErrorOf([&] { none.PrintLine("une"); }), 68);
   // Where there is no printer at all, a cancelled dialog leads to a file, and the user is told of it.
-  EXPECT_TRUE(!none.Choose());
+  EXPECT_FALSE(none.Choose());
   EXPECT_EQ(messages.boxes.size(), std::size_t{1});
   const std::string& told = messages.boxes.front().text;
   const QString file = ToQt(told.substr(told.find('/')));

@@ -116,13 +116,13 @@ TEST_F(QtWindowsTest, ALongLoadShowsTheSmallWindow) {
     EXPECT_TRUE(window->isVisible());
     QTest::qSleep(180);
     windows.ServeEvents();
-    EXPECT_TRUE(!window->isVisible());
+    EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(windows.WindowOf(small)->isVisible());
     small.Hide();
     main.Show();
   });
   EXPECT_TRUE(QTest::qWaitFor([&] { return window->isVisible(); }));
-  EXPECT_TRUE(!windows.WindowOf(small)->isVisible());
+  EXPECT_FALSE(windows.WindowOf(small)->isVisible());
 }
 
 TEST_F(QtWindowsTest, ServingEventsCostsNextToNothing) {
@@ -148,7 +148,7 @@ TEST_F(QtWindowsTest, AModalWindowLocksTheOthersAndBlocksItsCaller) {
   bool back = false, locked = false;
   QTimer::singleShot(0, &windows, [&] {
     auto& station = programme.Fenetre<Station>();
-    EXPECT_TRUE(!back);
+    EXPECT_FALSE(back);
     locked = windows.WindowOf(station)->isModal() && !main.Indicatif_A.Reachable();
     // As the user closes it.
     windows.WindowOf(station)->close();
@@ -159,7 +159,7 @@ TEST_F(QtWindowsTest, AModalWindowLocksTheOthersAndBlocksItsCaller) {
   });
   EXPECT_TRUE(back && locked);
   EXPECT_TRUE(main.Indicatif_A.Reachable());
-  EXPECT_TRUE(!programme.Ouverte<Station>());
+  EXPECT_FALSE(programme.Ouverte<Station>());
 }
 
 TEST_F(QtWindowsTest, EscapeClosesASecondaryWindow) {
@@ -168,7 +168,7 @@ TEST_F(QtWindowsTest, EscapeClosesASecondaryWindow) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(window));
   EXPECT_EQ(window->focusWidget(), windows.WidgetOf(prefix.N_Prefixe));
   QTest::keyClick(window, Qt::Key_Escape);
-  EXPECT_TRUE(!programme.Ouverte<Ajout_Prefixe>());
+  EXPECT_FALSE(programme.Ouverte<Ajout_Prefixe>());
   window->activateWindow();
   QTest::keyClick(window, Qt::Key_Escape);
   EXPECT_TRUE(programme.Ouverte<DDFM>());
@@ -216,7 +216,7 @@ TEST(QtBoxes, QuestionsSpeakFrench) {
   EXPECT_EQ(messages.words, (QStringList{QStringLiteral("Non"), QStringLiteral("Oui")}));
   EXPECT_EQ(messages.first, QMessageBox::Yes);
   messages.answer = QMessageBox::Cancel;
-  EXPECT_TRUE(!messages.Ask("?", Buttons::OkCancel, Icon::Critical));
+  EXPECT_FALSE(messages.Ask("?", Buttons::OkCancel, Icon::Critical));
   EXPECT_EQ(messages.words, (QStringList{QStringLiteral("Annuler"), QStringLiteral("OK")}));
   EXPECT_EQ(messages.first, QMessageBox::Cancel);
   messages.Fatal(53, "Fichier introuvable");

@@ -43,11 +43,11 @@ TEST(SettingsTest, NamesAndValuesComeBackExactly) {
 TEST(SettingsTest, AbsentIsNotEmpty) {
   const ScratchFolder folder;
   QtSettings store(ToQt(folder.File("Vorelio.ini")));
-  EXPECT_TRUE(!store.Read("DDFM", "Setup", "Indicatif Station"));
+  EXPECT_FALSE(store.Read("DDFM", "Setup", "Indicatif Station"));
   store.Write("DDFM", "Setup", "Indicatif Station", "");
   EXPECT_EQ(store.Read("DDFM", "Setup", "Indicatif Station").value_or("absent"), "");
-  EXPECT_TRUE(!store.Read("DDFM", "Setup", "Indicatif"));
-  EXPECT_TRUE(!store.Read("DDFM", "Setup ", "Indicatif Station"));
+  EXPECT_FALSE(store.Read("DDFM", "Setup", "Indicatif"));
+  EXPECT_FALSE(store.Read("DDFM", "Setup ", "Indicatif Station"));
 }
 
 // Each write is on the disk when it returns.
@@ -69,8 +69,8 @@ TEST(SettingsTest, WhatIsNoTextOfTheSetCountsAsAbsent) {
   const ScratchFolder folder;
   folder.Write("Vorelio.ini", "[DDFM]\nSetup\\liste=a, b\nSetup\\russe=\"\\x44f\"\nSetup\\bon=a\n");
   QtSettings store(ToQt(folder.File("Vorelio.ini")));
-  EXPECT_TRUE(!store.Read("DDFM", "Setup", "liste"));
-  EXPECT_TRUE(!store.Read("DDFM", "Setup", "russe"));
+  EXPECT_FALSE(store.Read("DDFM", "Setup", "liste"));
+  EXPECT_FALSE(store.Read("DDFM", "Setup", "russe"));
   EXPECT_EQ(store.Read("DDFM", "Setup", "bon").value_or("absent"), "a");
 }
 
@@ -83,7 +83,7 @@ TEST(SettingsTest, TheProgramsOwnFolderComesFirst) {
   const auto folder = FindProgramFolder(ToQt(program.Path()), ToQt(home.Path()), problem);
   ASSERT_TRUE(folder);
   EXPECT_EQ(folder->text, program.Path());
-  EXPECT_TRUE(!home.Exists("Vorelio"));
+  EXPECT_FALSE(home.Exists("Vorelio"));
 }
 
 TEST(SettingsTest, AnInstalledProgramSeedsTheUsersFolder) {
@@ -111,7 +111,7 @@ TEST(SettingsTest, AFolderThatCannotBeMadeIsToldOf) {
   const ScratchFolder system, home;
   home.Write("file", "");
   QString problem;
-  EXPECT_TRUE(!FindProgramFolder(ToQt(system.Path()), ToQt(home.File("file")), problem));
+  EXPECT_FALSE(FindProgramFolder(ToQt(system.Path()), ToQt(home.File("file")), problem));
   EXPECT_TRUE(problem.contains(QStringLiteral("Impossible de créer le dossier")));
 }
 

@@ -143,7 +143,7 @@ TEST_F(TextFieldTest, TheCaretStandsWhereTheLogicPutsIt) {
   model.SetText("DFCF ");
   model.SetCaret(5);
   EXPECT_EQ(field->cursorPosition(), 5);
-  EXPECT_TRUE(!field->hasSelectedText());
+  EXPECT_FALSE(field->hasSelectedText());
   model.SetCaret(1, 3);
   EXPECT_EQ(field->selectionStart(), 1);
   EXPECT_EQ(field->selectedText(), QStringLiteral("FCF"));
@@ -163,7 +163,7 @@ TEST_F(TextFieldTest, TheUsersCaretIsTold) {
 
 // A field whose text was set stands selected: the first character takes its place. Without the focus it shows none.
 TEST_F(TextFieldTest, ASetTextGivesWayToTheFirstCharacter) {
-  EXPECT_TRUE(!other->hasSelectedText());
+  EXPECT_FALSE(other->hasSelectedText());
   form().Autre.SetFocus();
   other->setFocus(Qt::OtherFocusReason);
   binding->Of(form().Autre)->Focused();
@@ -207,7 +207,7 @@ TEST_F(TextFieldTest, ColouredFieldsKeepBlackText) {
 TEST_F(TextFieldTest, ADisabledFieldTakesNothingAndTellsNoFocus) {
   form().Champ.SetFocus();
   form().Champ.SetEnabled(false);
-  EXPECT_TRUE(!field->isEnabled());
+  EXPECT_FALSE(field->isEnabled());
   EXPECT_EQ(gate.lost, 1);
   // Qt has moved the focus on; the logic's word stands.
   EXPECT_EQ(programme.Focus(), &form().Champ);
