@@ -287,9 +287,8 @@ TEST_F(Imports, FaultsOfTheDisk) {
 TEST_F(Imports, NativeLinesComeInAsTheyStand) {
   const std::string odd = LogLine("11/05/03", "12:00", "N").substr(0, 60);
   const std::string utf8 = LogLine("01/01/01", "00:00", "M").replace(110, 5, "Zo\xC3\xA9 ");
-  const std::string marker = kMarker_EDI;
   Start({LogLine("12/05/03", "12:34", "A")});
-  Import(Importe_CTF, odd + "\n" + utf8 + "\r\n\r\n" + marker + "\r\nx");
+  Import(Importe_CTF, odd + "\n" + utf8 + "\r\n\r\n" + kMarker_EDI + "\r\nx");
   EXPECT_EQ(Read("F9QZX.log"), odd + "\r\n" + utf8 + "\r\n\r\nx\r\n" + LogLine("12/05/03", "12:34", "A") + "\r\n");
   // A second time they are there twice.
   Start({LogLine("12/05/03", "12:34", "A")});
