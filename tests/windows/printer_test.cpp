@@ -121,7 +121,8 @@ INSTANTIATE_TEST_SUITE_P(SheetsAndCounts, Labels,
                          testing::Combine(testing::Range<std::size_t>(0, 4), testing::Values(16, 17)));
 
 TEST_P(Labels, StayOnTheirSheets) {
-  const auto [sheet, count] = GetParam();
+  const std::size_t sheet = std::get<0>(GetParam());
+  const int count = std::get<1>(GetParam());
   printer.answer = File("Etiquettes.pdf");
   std::string log;
   std::vector<std::string> contacts;
