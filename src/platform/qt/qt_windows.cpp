@@ -19,6 +19,7 @@
 #include "core/programme.h"
 #include "core/text.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/window_fit.h"
 
 namespace vorelio {
 
@@ -173,6 +174,7 @@ void QtWindows::ShowWindow(Window& window) {
   }
   if (!window.placed) {
     if (!widget->testAttribute(Qt::WA_Resized)) widget->adjustSize();
+    FitOnScreen(*widget);
     if (window.centre) PlaceInCentre(window);
     window.placed = true;
   }
@@ -286,6 +288,7 @@ void QtWindows::WaitForEvent() {
 }
 
 bool QtWindows::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) FollowContents(*static_cast<QWidget*>(watched));
   if (event->type() != QEvent::Close) return false;
   // Whether the window goes is the logic's to say.
   event->ignore();

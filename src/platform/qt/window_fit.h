@@ -1,0 +1,16 @@
+#pragma once
+
+class QWidget;
+
+/// How windows get on with a small screen.
+namespace vorelio {
+
+/// Makes a window no larger than its screen. The least size that its design asks for gives way first, for the lists
+/// to scroll; where the contents need more room than the screen has (large letters, a small screen), they become a
+/// page that scrolls. To be called before a window is first shown.
+void FitOnScreen(QWidget& window);
+
+/// The same when the contents have grown. A window that the user has made large stays so.
+void FollowContents(QWidget& window);
+
+}  // namespace vorelio
