@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegion>
 #include <QStyleOption>
 #include <algorithm>
 #include <cmath>
@@ -108,13 +109,45 @@ void DrawCard(QPainter& painter, const QRect& rect, const QPalette& palette) {
   painter.restore();
 }
 
-void DrawArrow(QPainter& painter, const QRect& rect, const QColor& colour) {
+/// The straight edge of a list or a text. Where a pixel of the design is no whole number of the screen's, what stands
+/// inside may be rounded over a thin line: there the line reaches under it.
+void DrawEdge(QPainter& painter, const QRect& rect, const QColor& colour) {
+  const double ratio = painter.device()->devicePixelRatioF();
+  const int width = ratio == std::floor(ratio) ? 1 : 2;
+  const QRegion inside(rect.adjusted(width, width, -width, -width));
+  for (const QRect& side : QRegion(rect) - inside) painter.fillRect(side, colour);
+}
+
+void DrawArrow(QPainter& painter, const QPointF& middle, const QColor& colour, double angle = 0) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  const QPointF middle = QRectF(rect).center() + QPointF(-1, 0);
-  const QPointF points[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2.2), middle + QPointF(4, -2)};
+  painter.translate(middle);
+  painter.rotate(angle);
+  const QPointF points[] = {QPointF(-4, -2), QPointF(0, 2.2), QPointF(4, -2)};
   painter.drawPolyline(points, 3);
+  painter.restore();
+}
+
+/// A scroll bar whose slider stands out from the list beside it, light or dark.
+void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QStyle& style, const QWidget* widget) {
+  const auto place = [&](QStyle::SubControl part) {
+    return QRectF(style.subControlRect(QStyle::CC_ScrollBar, &bar, part, widget));
+  };
+  const bool upright = bar.orientation == Qt::Vertical;
+  const QColor ink = bar.palette.color(QPalette::PlaceholderText), ground = bar.palette.color(QPalette::Window);
+  painter.fillRect(bar.rect, ground);
+  DrawArrow(painter, place(QStyle::SC_ScrollBarSubLine).center(), ink, upright ? 180 : 90);
+  DrawArrow(painter, place(QStyle::SC_ScrollBarAddLine).center(), ink, upright ? 0 : -90);
+  if (!Enabled(bar) || bar.minimum == bar.maximum) return;
+  const bool held = bar.activeSubControls & QStyle::SC_ScrollBarSlider && bar.state & QStyle::State_Sunken;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Blend(ink, ground, held ? 0.1 : 0.4));
+  painter.drawRoundedRect(
+      place(QStyle::SC_ScrollBarSlider).adjusted(upright ? 3 : 0, upright ? 0 : 3, upright ? -3 : 0, upright ? 0 : -3),
+      kRadius, kRadius);
   painter.restore();
 }
 
@@ -151,14 +184,12 @@ void VorelioStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     case PE_FrameGroupBox: DrawCard(*painter, option->rect, option->palette); return;
     case PE_Frame:
       if (widget && widget->inherits("QAbstractScrollArea")) {
-        painter->save();
-        painter->setPen(option->palette.color(widget->hasFocus() ? QPalette::Highlight : QPalette::Mid));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-        painter->restore();
+        DrawEdge(*painter, option->rect,
+                 option->palette.color(widget->hasFocus() ? QPalette::Highlight : QPalette::Mid));
         return;
       }
       break;
+    case PE_PanelScrollAreaCorner: painter->fillRect(option->rect, option->palette.color(QPalette::Window)); return;
     case PE_FrameStatusBarItem: return;
     default: break;
   }
@@ -190,9 +221,11 @@ void VorelioStyle::drawComplexControl(ComplexControl control, const QStyleOption
   if (control == CC_ComboBox) {
     DrawField(*painter, option->rect, *option, option->state.testFlag(State_HasFocus), kRadius);
     const QRect arrow = proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
-    DrawArrow(*painter, arrow, option->palette.color(QPalette::Text));
+    DrawArrow(*painter, QRectF(arrow).center() + QPointF(-1, 0), option->palette.color(QPalette::Text));
     return;
   }
+  if (const auto* bar = control == CC_ScrollBar ? qstyleoption_cast<const QStyleOptionSlider*>(option) : nullptr)
+    return DrawScrollBar(*painter, *bar, *proxy(), widget);
   if (control == CC_GroupBox) {
     const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
     if (!box) return;
@@ -233,7 +266,10 @@ QSize VorelioStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
   switch (type) {
     case CT_LineEdit: {
       if (Marked(widget, "cellule")) return size + QSize(4, 4);
-      return {size.width() + 2 * kFieldMargin, option->fontMetrics.height() + 10};
+      // A field's property "signes" is how many characters it shows at least.
+      const QString least(widget ? widget->property("signes").toInt() : 0, u'0');
+      const int width = std::max(size.width(), option->fontMetrics.horizontalAdvance(least));
+      return {width + 2 * kFieldMargin, option->fontMetrics.height() + 10};
     }
     case CT_ComboBox: return {size.width() + kArrowWidth + 2 * kFieldMargin, option->fontMetrics.height() + 10};
     case CT_PushButton: {
