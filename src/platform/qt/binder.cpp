@@ -299,6 +299,8 @@ QWidget* LoadWindow(const QString& form, QString& problem) {
   Loader loader;
   QWidget* window = loader.load(&file);
   if (!window) problem = loader.errorString();
+  for (QLabel* label : window ? window->findChildren<QLabel*>() : QList<QLabel*>())
+    if (label->property("rogne").toBool()) label->setText(label->text().trimmed());
   // A .ui file can put labels into a status bar, but not say where.
   if (auto* bar = window ? window->findChild<QStatusBar*>() : nullptr)
     for (QLabel* label : bar->findChildren<QLabel*>()) bar->addPermanentWidget(label);

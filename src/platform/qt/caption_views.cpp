@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <cmath>
 
 #include "platform/qt/qt_text.h"
 
@@ -36,6 +37,14 @@ void LabelView::ShowColour() {
 void CaptionLabel::SetPlate(bool plate) {
   plate_ = plate;
   update();
+}
+
+/// Letters of a size between two pixels may run a little wider than their measure: the last one isn't to be cut.
+QSize CaptionLabel::Whole(const QSize& size) const {
+  constexpr int kMore = 2;
+  const double ratio = devicePixelRatioF();
+  const bool between = ratio != std::floor(ratio) && !text().isEmpty() && !wordWrap();
+  return between ? size + QSize(kMore, 0) : size;
 }
 
 void CaptionLabel::PaintHeading() {

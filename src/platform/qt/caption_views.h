@@ -22,11 +22,15 @@ class CaptionLabel : public QLabel {
   /// titles of each heading that it may bear, with "|" between.
   void SetHeadingOf(const RowsView& rows) { rows_ = &rows; }
 
+  QSize sizeHint() const override { return Whole(QLabel::sizeHint()); }
+  QSize minimumSizeHint() const override { return Whole(QLabel::minimumSizeHint()); }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void PaintHeading();
+  QSize Whole(const QSize& size) const;
 
   bool plate_ = false;
   const RowsView* rows_ = nullptr;
