@@ -49,7 +49,7 @@ bool WindowExtras::Restore(const QString& name, QWidget& window) {
   if (window.restoreGeometry(memory_.value(key).toByteArray())) return true;
   // At first, as large as the log likes it, and no larger than the screen.
   const QSize room = QGuiApplication::primaryScreen()->availableSize();
-  window.resize(std::min(room.width() - 40, 1320), std::min(room.height() - 60, 860));
+  window.resize(std::min(room.width() - 40, 1540), std::min(room.height() - 60, 860));
   return false;
 }
 
