@@ -203,6 +203,8 @@ class Tour {
     TakeWindow<Delta_QSO>();
     TakeWindow<Restoration_Activite>();
     TakeWindow<Export_Adif>();
+    TakeExportOfSome();
+    Do([&] { main.Liste_QSO.UserSelect(3); });
     TakeWindow<Exporter_QSO>();
     TakeWindow<Etiquettes>();
     TakeLabels();
@@ -255,6 +257,15 @@ class Tour {
     if (!form) return;
     Take(*form, ToQt(form->Name()));
     Do([form] { form->Hide(); });
+  }
+
+  /// The fields that the export of a part of the log asks for.
+  void TakeExportOfSome() {
+    auto& some = programme_.Fenetre<Export_Adif>();
+    Do([&] { some.Show(); });
+    Do([&] { some.Option2.UserClick(); });
+    Take(some, QStringLiteral("Export_Adif-partiel"));
+    Do([&] { some.Hide(); });
   }
 
   void TakeLabels() {
