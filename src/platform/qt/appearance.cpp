@@ -38,7 +38,7 @@ struct Shades {
 constexpr Shades kLight = {0xFFEDF0F4, 0xFF1A2330, 0xFFFFFFFF, 0xFFF5F7FA, 0xFFF3F5F8, 0xFFFCFDFE,
                            0xFFBFC8D2, 0xFFDBE1E8, 0xFF94A0AD, 0xFF1D6FA5, 0xFF5C6876, 0xFFFFFDF0};
 constexpr Shades kDark = {0xFF1B2026, 0xFFE2E7ED, 0xFF15191E, 0xFF1A1F25, 0xFF2C343D, 0xFF232930,
-                          0xFF46515D, 0xFF323A44, 0xFF0E1114, 0xFF2F7FB3, 0xFF95A1AE, 0xFF2C343D};
+                          0xFF46515D, 0xFF323A44, 0xFF0E1114, 0xFF2B7BAF, 0xFF95A1AE, 0xFF2C343D};
 
 /// The band at the head of the main window is night blue in both themes.
 constexpr QRgb kBand = 0xFF16324A, kBandDark = 0xFF11263A, kBandText = 0xFFF2F6FA, kBandQuiet = 0xFFA9C0D4;
@@ -113,7 +113,7 @@ QPalette ThemePalette(bool dark) {
   set(QPalette::ToolTipText, shades.text);
   // A selection stays readable in a window that isn't in front.
   palette.setColor(QPalette::Inactive, QPalette::Highlight,
-                   Blend(QColor::fromRgb(shades.highlight), QColor::fromRgb(shades.window), 0.25));
+                   Blend(QColor::fromRgb(shades.highlight), QColor::fromRgb(shades.window), 0.1));
   const QColor faint = Blend(QColor::fromRgb(shades.text), QColor::fromRgb(shades.card), 0.5);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, faint);

@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <cmath>
 
 #include "platform/qt/qt_text.h"
 
@@ -39,12 +38,11 @@ void CaptionLabel::SetPlate(bool plate) {
   update();
 }
 
-/// Letters of a size between two pixels may run a little wider than their measure: the last one isn't to be cut.
+/// On a screen of another scale letters may run a little wider than their measure: the last one isn't to be cut.
 QSize CaptionLabel::Whole(const QSize& size) const {
   constexpr int kMore = 2;
-  const double ratio = devicePixelRatioF();
-  const bool between = ratio != std::floor(ratio) && !text().isEmpty() && !wordWrap();
-  return between ? size + QSize(kMore, 0) : size;
+  const bool scaled = devicePixelRatioF() != 1 && !text().isEmpty() && !wordWrap();
+  return scaled ? size + QSize(kMore, 0) : size;
 }
 
 void CaptionLabel::PaintHeading() {
