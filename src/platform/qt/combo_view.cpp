@@ -18,6 +18,8 @@ constexpr int kPause_ms = 1000;
 ComboView::ComboView(ComboBox& combo, QComboBox& box, Gate& gate) : ViewOf(combo, box, gate) {
   box.setEditable(combo.Genre() == ComboBox::Kind::Editable);
   box.setInsertPolicy(QComboBox::NoInsert);
+  // All the bands at a glance.
+  box.setMaxVisibleItems(20);
   box.setFocusPolicy(Qt::StrongFocus);
   // Its rows come after its first being shown.
   if (box.sizeAdjustPolicy() == QComboBox::AdjustToContentsOnFirstShow)

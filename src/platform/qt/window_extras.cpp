@@ -3,13 +3,11 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
-#include <algorithm>
 
 #include "platform/qt/qt_text.h"
+#include "platform/qt/window_fit.h"
 
 namespace vorelio {
 
@@ -48,8 +46,7 @@ bool WindowExtras::Restore(const QString& name, QWidget& window) {
   new PlaceKeeper(window, memory_, key);
   if (window.restoreGeometry(memory_.value(key).toByteArray())) return true;
   // At first, as large as the log likes it, and no larger than the screen.
-  const QSize room = QGuiApplication::primaryScreen()->availableSize();
-  window.resize(std::min(room.width() - 40, 1540), std::min(room.height() - 60, 860));
+  window.resize(RoomFor(window).boundedTo(QSize(1540, 860)));
   return false;
 }
 

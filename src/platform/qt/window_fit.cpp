@@ -17,8 +17,6 @@ bool Exceeds(const QSize& size, const QSize& room) {
   return size.width() > room.width() || size.height() > room.height();
 }
 
-QSize Room(const QWidget& window) { return window.screen()->availableSize() - kFrame; }
-
 QScrollArea* MakePage(QWidget& window, QWidget& contents) {
   auto* page = new QScrollArea(&window);
   page->setFrameShape(QFrame::NoFrame);
@@ -30,7 +28,8 @@ QScrollArea* MakePage(QWidget& window, QWidget& contents) {
 
 void PutOnPage(QWidget& window) {
   if (auto* main = qobject_cast<QMainWindow*>(&window)) {
-    if (QWidget* centre = main->centralWidget()) main->setCentralWidget(MakePage(window, *centre));
+    QWidget* centre = main->centralWidget();
+    if (centre && !qobject_cast<QScrollArea*>(centre)) main->setCentralWidget(MakePage(window, *centre));
     return;
   }
   // The contents stay within their window on the way: a change of the window would cost them the tab chain.
@@ -43,9 +42,11 @@ void PutOnPage(QWidget& window) {
 
 }  // namespace
 
+QSize RoomFor(const QWidget& window) { return window.screen()->availableSize() - kFrame; }
+
 void FitOnScreen(QWidget& window) {
   if (!window.layout()) return;
-  const QSize room = Room(window), least = window.minimumSizeHint();
+  const QSize room = RoomFor(window), least = window.minimumSizeHint();
   QSize wanted = window.size().expandedTo(window.minimumSize());
   if (Exceeds(least, room)) {
     PutOnPage(window);
@@ -59,7 +60,7 @@ void FitOnScreen(QWidget& window) {
 }
 
 void FollowContents(QWidget& window) {
-  if (window.layout() && Exceeds(window.minimumSizeHint(), Room(window))) FitOnScreen(window);
+  if (window.layout() && Exceeds(window.minimumSizeHint(), RoomFor(window))) FitOnScreen(window);
 }
 
 }  // namespace vorelio

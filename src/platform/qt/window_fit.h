@@ -1,9 +1,14 @@
 #pragma once
 
+#include <QSize>
+
 class QWidget;
 
 /// How windows get on with a small screen.
 namespace vorelio {
+
+/// What the window's screen has room for, its frame left aside.
+QSize RoomFor(const QWidget& window);
 
 /// Makes a window no larger than its screen. The least size that its design asks for gives way first, for the lists
 /// to scroll; where the contents need more room than the screen has (large letters, a small screen), they become a
