@@ -25,7 +25,7 @@ class PictureBoard : public QWidget {
   void Lay(QWidget& widget, const QRect& place);
 
   QSize sizeHint() const override { return plain_ * 5 / 4; }
-  QSize minimumSizeHint() const override { return plain_ * 4 / 5; }
+  QSize minimumSizeHint() const override { return plain_ * 3 / 4; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
