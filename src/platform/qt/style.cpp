@@ -266,7 +266,6 @@ QSize VorelioStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
   switch (type) {
     case CT_LineEdit: {
       if (Marked(widget, "cellule")) return size + QSize(4, 4);
-      // A field's property "signes" is how many characters it shows at least.
       const QString least(widget ? widget->property("signes").toInt() : 0, u'0');
       const int width = std::max(size.width(), option->fontMetrics.horizontalAdvance(least));
       return {width + 2 * kFieldMargin, option->fontMetrics.height() + 10};

@@ -7,7 +7,7 @@ namespace vorelio {
 /// Fusion with flat fields and buttons, and group boxes as cards. All colours are the palette's.
 ///
 /// Properties of widgets that it looks at: "principal" (the one button of a window that goes on), "cellule" (a cell of
-/// a grid).
+/// a grid), "signes" (how many characters a field shows at least).
 class VorelioStyle : public QProxyStyle {
  public:
   VorelioStyle();
