@@ -232,7 +232,11 @@ class Tour {
       Do([&] { many.Liste_QSO.UserTick(1); });
       Take(many, QStringLiteral("Multi_QSL"));
     }
+    // Boxes of each kind. The answers are those of the key Enter.
     Do([&] { main.Mnu_A_Propos.UserClick(); });
+    Do([&] { main.Mnu_RAZ_All.UserClick(); });
+    Do([&] { main.Liste_QSO.UserDblClick(3); });
+    Do([&] { main.Effacer.UserClick(); });
     // Comes last: the program ends with it.
     TakeWindow<Gestion_Erreur>();
   }
