@@ -122,9 +122,9 @@ TEST_F(AccessTest, MnemonicsDoNotClash) {
       EXPECT_FALSE(Mnemonic(menu->title()).isEmpty()) << qPrintable(menu->title());
       std::set<QString> within;
       for (const QAction* entry : menu->actions())
-        if (!entry->isSeparator())
-          QVERIFY2(!Mnemonic(entry->text()).isEmpty() && within.insert(Mnemonic(entry->text())).second,
-                   qPrintable(entry->text()));
+        EXPECT_TRUE(entry->isSeparator() ||
+                    (!Mnemonic(entry->text()).isEmpty() && within.insert(Mnemonic(entry->text())).second))
+            << qPrintable(entry->text());
     }
   }
 }

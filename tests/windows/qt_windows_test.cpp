@@ -167,12 +167,13 @@ TEST_F(QtWindowsTest, AModalWindowLocksTheOthersAndBlocksItsCaller) {
 
 TEST_F(QtWindowsTest, EscapeClosesASecondaryWindow) {
   auto& prefix = Open<Ajout_Prefixe>();
-  QWidget* window = windows.WindowOf(prefix);
-  EXPECT_TRUE(QTest::qWaitForWindowActive(window));
-  EXPECT_EQ(window->focusWidget(), windows.WidgetOf(prefix.N_Prefixe));
-  QTest::keyClick(window, Qt::Key_Escape);
+  QWidget* secondary = windows.WindowOf(prefix);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(secondary));
+  EXPECT_EQ(secondary->focusWidget(), windows.WidgetOf(prefix.N_Prefixe));
+  QTest::keyClick(secondary, Qt::Key_Escape);
   EXPECT_FALSE(programme.Ouverte<Ajout_Prefixe>());
   window->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(window));
   QTest::keyClick(window, Qt::Key_Escape);
   EXPECT_TRUE(programme.Ouverte<DDFM>());
 }
