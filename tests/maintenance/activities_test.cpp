@@ -1,5 +1,5 @@
-#include "entry/ddfm.h"
 #include "maintenance/activities.h"
+#include "entry/ddfm.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/restore_activities_window.h"
 #include "support/station_fixture.h"
