@@ -27,9 +27,9 @@ QScrollArea* MakePage(QWidget& window, QWidget& contents) {
 }
 
 void PutOnPage(QWidget& window) {
+  if (window.findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly)) return;
   if (auto* main = qobject_cast<QMainWindow*>(&window)) {
-    QWidget* centre = main->centralWidget();
-    if (centre && !qobject_cast<QScrollArea*>(centre)) main->setCentralWidget(MakePage(window, *centre));
+    if (QWidget* centre = main->centralWidget()) main->setCentralWidget(MakePage(window, *centre));
     return;
   }
   // The contents stay within their window on the way: a change of the window would cost them the tab chain.
@@ -42,7 +42,10 @@ void PutOnPage(QWidget& window) {
 
 }  // namespace
 
-QSize RoomFor(const QWidget& window) { return window.screen()->availableSize() - kFrame; }
+QSize RoomFor(const QWidget& window) {
+  const QSize room = window.screen()->availableSize() - kFrame;
+  return room.isEmpty() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : room;
+}
 
 void FitOnScreen(QWidget& window) {
   if (!window.layout()) return;

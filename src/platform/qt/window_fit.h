@@ -7,7 +7,8 @@ class QWidget;
 /// How windows get on with a small screen.
 namespace vorelio {
 
-/// What the window's screen has room for, its frame left aside.
+/// What the window's screen has room for, its frame left aside. A screen that is switched off may have no size for a
+/// while: that asks nothing of a window.
 QSize RoomFor(const QWidget& window);
 
 /// Makes a window no larger than its screen. The least size that its design asks for gives way first, for the lists
