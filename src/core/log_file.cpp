@@ -3,8 +3,8 @@
 #include "core/calendar.h"
 #include "core/loading_window.h"
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 
 namespace vorelio::Sous_Programmes {
 
@@ -20,10 +20,10 @@ void Reecrit_Log(Programme& programme, const ListBox& liste) {
 }
 
 /// Moves the rows of the working copy into the list.
-void Reprend_Copie(DDFM& ddfm) {
-  ddfm.Liste_QSO.ClearItems();
-  for (const std::string& element : ddfm.Liste_QSO_Bis.Items()) ddfm.Liste_QSO.AddItem(element);
-  ddfm.Liste_QSO_Bis.ClearItems();
+void Reprend_Copie(Fenetre_Principale& principale) {
+  principale.Journal().ClearItems();
+  for (const std::string& element : principale.Copie_Journal().Items()) principale.Journal().AddItem(element);
+  principale.Copie_Journal().ClearItems();
 }
 
 void Ajoute_Numerotee(ListBox& liste, int numero, std::string_view ligne) {
@@ -31,10 +31,6 @@ void Ajoute_Numerotee(ListBox& liste, int numero, std::string_view ligne) {
 }
 
 }  // namespace
-
-void Annonce_Numero(Programme& programme, int numero) {
-  programme.Fenetre<DDFM>().Frame4.SetCaption("QSO numéro "_t + std::to_string(numero));
-}
 
 std::string Texte_Log(Programme& programme) {
   return programme.Disque().ReadAll(programme.Chemin_Log(programme.contexte.Station_Indicatif));
@@ -51,15 +47,15 @@ void Liste_Log(Programme& programme, std::string_view station, ListBox& liste) {
 }
 
 void Charge_Log(Programme& programme, std::string_view station) {
-  auto& ddfm = programme.Fenetre<DDFM>();
+  auto& principale = programme.Principale();
   auto& chargement = programme.Fenetre<Chargement>();
-  ddfm.Hide();
+  principale.Hide();
   chargement.Show();
-  Liste_Log(programme, station, ddfm.Liste_QSO);
-  programme.contexte.Nb_QSO = ddfm.Liste_QSO.Count();
-  Annonce_Numero(programme, programme.contexte.Nb_QSO + 1);
+  Liste_Log(programme, station, principale.Journal());
+  programme.contexte.Nb_QSO = principale.Journal().Count();
+  principale.Annonce_Numero(programme.contexte.Nb_QSO + 1);
   chargement.Hide();
-  ddfm.Show();
+  principale.Show();
 }
 
 void Ajoute_Ligne_Log(Programme& programme, std::string_view ligne) {
@@ -68,46 +64,46 @@ void Ajoute_Ligne_Log(Programme& programme, std::string_view ligne) {
 }
 
 void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::string_view nouvelle) {
-  auto& ddfm = programme.Fenetre<DDFM>();
-  ddfm.Liste_QSO_Bis.ClearItems();
-  for (const std::string& element : ddfm.Liste_QSO.Items())
-    ddfm.Liste_QSO_Bis.AddItem(element == ancienne ? nouvelle : element);
-  Reprend_Copie(ddfm);
-  Reecrit_Log(programme, ddfm.Liste_QSO);
+  auto& principale = programme.Principale();
+  principale.Copie_Journal().ClearItems();
+  for (const std::string& element : principale.Journal().Items())
+    principale.Copie_Journal().AddItem(element == ancienne ? nouvelle : element);
+  Reprend_Copie(principale);
+  Reecrit_Log(programme, principale.Journal());
 }
 
 void Insere_QSO_Log(Programme& programme, std::string_view ligne) {
-  auto& ddfm = programme.Fenetre<DDFM>();
+  auto& principale = programme.Principale();
   const auto moment = [](std::string_view qso) {
     return Moment_QSO(Champ_Log(qso, champs::Date_A), Champ_Log(qso, champs::Debut_A));
   };
 
-  ddfm.Liste_QSO_Bis.ClearItems();
+  principale.Copie_Journal().ClearItems();
   bool insere = false;
   int numero = 1;
-  for (const std::string& element : ddfm.Liste_QSO.Items()) {
+  for (const std::string& element : principale.Journal().Items()) {
     const std::string_view ancienne = Partie_Log(element);
     // A tie goes to the new contact. Once it has its place, older lines are no longer asked for their date.
     if (!insere && moment(ancienne) >= moment(ligne)) {
-      Ajoute_Numerotee(ddfm.Liste_QSO_Bis, numero++, ligne);
+      Ajoute_Numerotee(principale.Copie_Journal(), numero++, ligne);
       insere = true;
     }
-    Ajoute_Numerotee(ddfm.Liste_QSO_Bis, numero++, ancienne);
+    Ajoute_Numerotee(principale.Copie_Journal(), numero++, ancienne);
   }
-  if (!insere) Ajoute_Numerotee(ddfm.Liste_QSO_Bis, numero, ligne);
-  Reprend_Copie(ddfm);
-  Reecrit_Log(programme, ddfm.Liste_QSO);
+  if (!insere) Ajoute_Numerotee(principale.Copie_Journal(), numero, ligne);
+  Reprend_Copie(principale);
+  Reecrit_Log(programme, principale.Journal());
 }
 
 void Efface_Ligne_Log(Programme& programme) {
-  auto& ddfm = programme.Fenetre<DDFM>();
-  ddfm.Liste_QSO.RemoveItem(ddfm.Liste_QSO.ListIndex());
-  ddfm.Liste_QSO_Bis.ClearItems();
+  auto& principale = programme.Principale();
+  principale.Journal().RemoveItem(principale.Journal().ListIndex());
+  principale.Copie_Journal().ClearItems();
   int numero = 1;
-  for (const std::string& element : ddfm.Liste_QSO.Items())
-    Ajoute_Numerotee(ddfm.Liste_QSO_Bis, numero++, Partie_Log(element));
-  Reprend_Copie(ddfm);
-  Reecrit_Log(programme, ddfm.Liste_QSO);
+  for (const std::string& element : principale.Journal().Items())
+    Ajoute_Numerotee(principale.Copie_Journal(), numero++, Partie_Log(element));
+  Reprend_Copie(principale);
+  Reecrit_Log(programme, principale.Journal());
 }
 
 }  // namespace vorelio::Sous_Programmes

@@ -34,7 +34,4 @@ void Insere_QSO_Log(Programme& programme, std::string_view ligne);
 /// Removes the contact selected in `Liste_QSO`, renumbers and rewrites. `Nb_QSO` stays as it is.
 void Efface_Ligne_Log(Programme& programme);
 
-/// "QSO numéro " and the number in `Frame4`.
-void Annonce_Numero(Programme& programme, int numero);
-
 }  // namespace vorelio::Sous_Programmes

@@ -4,6 +4,7 @@
 #include <new>
 
 #include "core/errors.h"
+#include "core/main_window.h"
 #include "core/text.h"
 
 namespace vorelio {
@@ -61,6 +62,11 @@ std::string Programme::Choisit_Nom(const std::string& propose, const std::string
 }
 
 // --- Windows --------------------------------------------------------------------------------------------------------
+
+Fenetre_Principale& Programme::Principale() const {
+  if (auto* principale = Ouverte<Fenetre_Principale>()) return *principale;
+  throw Erreur_Execution(Erreur::Objet_Absent, "Vorelio");
+}
 
 Form* Programme::Cherche_Fenetre(std::string_view nom) const {
   for (const auto& forme : formes_)

@@ -15,6 +15,8 @@
 
 namespace vorelio {
 
+class Fenetre_Principale;
+
 /// One run of the program: what it stands on, the station, the contact being typed, and the open windows. Several runs
 /// can live in one process.
 class Programme {
@@ -74,6 +76,9 @@ class Programme {
       if (auto* trouvee = dynamic_cast<F*>(forme.get())) return trouvee;
     return nullptr;
   }
+
+  /// The main window; run-time error 91 while there is none.
+  Fenetre_Principale& Principale() const;
 
   /// The loaded window of that name, or null.
   Form* Cherche_Fenetre(std::string_view nom) const;

@@ -9,9 +9,9 @@
 #include "core/errors.h"
 #include "core/loading_window.h"
 #include "core/log_file.h"
+#include "core/main_window.h"
 #include "core/station_files.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "geo/locator.h"
 #include "maintenance/activities.h"
 
@@ -174,10 +174,10 @@ void Station::Validation_Click() {
   bool fichier_absent = false;
   Essaie([&] { fichier_absent = !programme_.Disque().Exists(programme_.Chemin_Log(indicatif)); });
 
-  auto& ddfm = programme_.Fenetre<DDFM>();
+  auto& principale = programme_.Principale();
   programme_.contexte.Station_Indicatif = indicatif;
   programme_.contexte.Station_Locator = locator;
-  ddfm.Affiche_Station();
+  principale.Affiche_Station();
 
   if (fichier_absent)
     Cree_Station(indicatif, locator);
@@ -186,8 +186,8 @@ void Station::Validation_Click() {
   Montre_Station();
 
   // In an empty log this selects nothing, and so forgets the line that was selected in the log before.
-  Essaie([&] { ddfm.Liste_QSO.SetListIndex(ddfm.Liste_QSO.Count() - 1); });
-  ddfm.Bande_A.SetFocus();
+  Essaie([&] { principale.Journal().SetListIndex(principale.Journal().Count() - 1); });
+  principale.Attend_Bande();
   Unload();
 }
 
@@ -234,18 +234,18 @@ void Station::Relit_Choix() {
 }
 
 void Station::Montre_Station() {
-  auto& ddfm = programme_.Fenetre<DDFM>();
-  ddfm.Affiche_Station();
-  Essaie([&] { ddfm.Charge_Bande_Mode(); });
-  Essaie([&] { ddfm.Montre_Options(); });
-  Essaie([&] { ddfm.Charge_Activites(5); });
+  auto& principale = programme_.Principale();
+  principale.Affiche_Station();
+  Essaie([&] { principale.Charge_Bande_Mode(); });
+  Essaie([&] { principale.Montre_Options(); });
+  Essaie([&] { principale.Charge_Activites(5); });
   Essaie([&] { Charge_Log(programme_, programme_.contexte.Station_Indicatif); });
   // A load that fails leaves its own window in place of the main one.
-  if (!ddfm.Visible()) {
+  if (!principale.Visible()) {
     programme_.Fenetre<Chargement>().Hide();
-    ddfm.Show();
+    principale.Show();
   }
-  Essaie([&] { ddfm.Peint_Departements(); });
+  Essaie([&] { principale.Peint_Departements(); });
 }
 
 }  // namespace vorelio

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/programme.h"
 #include "platform/controls.h"
 
@@ -13,11 +14,10 @@ namespace vorelio {
 /// The main window: one entry chain driven by Enter, the department grid, the log underneath, and the menus. Its
 /// definitions stand in chapters: ddfm_start.cpp, ddfm_callsign_chain.cpp, ddfm_activation.cpp, ddfm_date_reports.cpp,
 /// ddfm_save.cpp, ddfm_review.cpp, ddfm_grid.cpp, ddfm_menus.cpp.
-class DDFM : public Form {
+class DDFM : public Fenetre_Principale {
  public:
   explicit DDFM(Programme& programme);
 
-  bool Main() const override { return true; }
   void Form_Load() override;
 
   // --- Station and clocks ---
@@ -97,23 +97,26 @@ class DDFM : public Form {
   MenuItem Mnu_Notes{*this, "Mnu_Notes", "Notes"};
   MenuItem Mnu_Mode_Emploi, Mnu_Historique, Mnu_A_Propos;
 
-  // --- What other windows use ---
-
-  /// Shows the station of the context in `I_Station`, `L_Station` and `Frame5`.
-  void Affiche_Station();
-  /// Selects the saved band and mode of the station.
-  void Charge_Bande_Mode();
-  /// Fills `Activ_A` with the activities of the station and selects the saved one. The defaults are those of an absent
-  /// count and an absent name.
-  void Charge_Activites(int defaut_nombre, std::string_view defaut_nom = "err1");
-  /// Checks the date and clock options of the station.
-  void Montre_Options();
-  /// Paints the departments of `Bande_Grille`, and tells their count in `Frame3`.
-  void Peint_Departements();
-  /// After cards have been entered: the grid in department mode, the log read anew, its last line selected.
-  void Reprend_Apres_QSL();
-  /// Tells the count of departments in `Frame3`.
-  void Legende_Departements();
+  // --- What the rest of the program uses ---
+  ListBox& Journal() override { return Liste_QSO; }
+  ListBox& Copie_Journal() override { return Liste_QSO_Bis; }
+  void Annonce_Numero(int numero) override;
+  void Reprend_Apres_QSL() override;
+  void Dit(std::string_view texte) override { Etat.SetCaption(texte); }
+  const Cellules& Grille() const override { return Dpt; }
+  const std::string& Bande_Choisie() const override { return Bande_DDFM.Text(); }
+  const std::string& Champ_Choisi() const override { return Carre_DDFM.Text(); }
+  void Peint_Departements() override;
+  void Legende_Departements() override;
+  const std::string& Indicatif_Affiche() const override { return I_Station.Caption(); }
+  void Affiche_Station() override;
+  void Charge_Bande_Mode() override;
+  void Charge_Activites(int defaut_nombre, std::string_view defaut_nom = "err1") override;
+  void Montre_Options() override;
+  bool Saisie_En_UTC() const override { return Mnu_UTC_Oui.Checked(); }
+  void Attend_Bande() override { Bande_A.SetFocus(); }
+  TextField& Champ_Indicatif() override { return Indicatif_A; }
+  void Permet_Imports(bool permis) override { EnableAll({&Mnu_Import_ADIF, &Mnu_Import_EDI, &Mnu_Import_CTF}, permis); }
 
  private:
   // Start-up.

@@ -45,7 +45,7 @@ void DDFM::Liste_QSO_DblClick() {
   auto& saisie = programme_.saisie;
   saisie.Ligne_Selection = Liste_QSO.Text();
   saisie.Numero_Selection = Liste_QSO.ListIndex() + 1;
-  Annonce_Numero(programme_, saisie.Numero_Selection);
+  Annonce_Numero(saisie.Numero_Selection);
   Editer.SetEnabled(true);
   Effacer.SetEnabled(true);
   Bande_A.SetEnabled(false);
@@ -79,7 +79,7 @@ void DDFM::Editer_Click() {
   Enregistrer.SetEnabled(true);
   Enregistrer.SetCaption("Valider");
   EnableAll({&Recherche, &Gestion_QSL, &Effacer, &Editer}, false);
-  Annonce_Numero(programme_, saisie.Numero_Selection);
+  Annonce_Numero(saisie.Numero_Selection);
 }
 
 void DDFM::Vide_Saisie() {
@@ -139,7 +139,7 @@ void DDFM::Annuler_Click() {
   Enregistrer.SetCaption("QSO Suivant");
   EnableAll({&Enregistrer, &Editer, &Effacer}, false);
   EnableAll({&Annuler, &Recherche, &Gestion_QSL}, true);
-  Annonce_Numero(programme_, programme_.contexte.Nb_QSO + 1);
+  Annonce_Numero(programme_.contexte.Nb_QSO + 1);
 }
 
 void DDFM::Gestion_QSL_Click() {

@@ -76,7 +76,7 @@ void DDFM::Enregistre_Nouveau() {
   Enregistrer.SetCaption("QSO Suivant");
   Enregistrer.SetEnabled(false);
   ++contexte.Nb_QSO;
-  Annonce_Numero(programme_, contexte.Nb_QSO + 1);
+  Annonce_Numero(contexte.Nb_QSO + 1);
 
   if (contexte.Numero_Sauvegarde + Valeur(contexte.Delta_Sauvegarde) <= contexte.Nb_QSO) {
     Sauvegarde_Auto(programme_);
@@ -170,7 +170,7 @@ bool DDFM::Enregistre_Edition() {
   QSLE_A.Clear();
   Enregistrer.SetCaption("QSO Suivant");
   saisie.QSO_Edition = false;
-  Annonce_Numero(programme_, contexte.Nb_QSO + 1);
+  Annonce_Numero(contexte.Nb_QSO + 1);
   return true;
 }
 

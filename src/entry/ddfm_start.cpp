@@ -14,7 +14,7 @@ namespace vorelio {
 using namespace Sous_Programmes;
 
 DDFM::DDFM(Programme& programme)
-    : Form(programme, "DDFM", "Vorelio"),
+    : Fenetre_Principale(programme, "DDFM", "Vorelio"),
       Bande_A(*this, "Bande_A", ComboBox::Kind::Editable, "144 MHz"),
       Mode_A(*this, "Mode_A", ComboBox::Kind::Editable),
       Activ_A(*this, "Activ_A", ComboBox::Kind::Choice),
@@ -150,7 +150,7 @@ void DDFM::Form_Load() {
   Bande_DDFM.SetText(contexte.Bande_Courante);
   Peint_Departements();
   // The log isn't read yet: number 1 stands here until it is.
-  Annonce_Numero(programme_, contexte.Nb_QSO + 1);
+  Annonce_Numero(contexte.Nb_QSO + 1);
   SetTitle(std::string("Vorelio Revision ") + Revision_Programme);
 
   Indicatif_A.SetEnabled(true);
@@ -221,6 +221,8 @@ std::vector<Control*> DDFM::Champs_De_La_Chaine() {
   return {&Depart_A, &Locator_A, &Mode_A, &Activ_A,  &Date_A, &Debut_A,
           &Fin_A,    &RSTE_A,    &RSTR_A, &Prenom_A, &QTH_A,  &Remarques_A};
 }
+
+void DDFM::Annonce_Numero(int numero) { Frame4.SetCaption("QSO numéro "_t + std::to_string(numero)); }
 
 void DDFM::Verrouille_Champs() {
   for (Control* champ : Champs_De_La_Chaine()) champ->SetEnabled(false);

@@ -1,8 +1,8 @@
 #include "exchange/award_export_window.h"
 
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 
 namespace vorelio {
 
@@ -44,7 +44,7 @@ void Exporter_QSO::Form_Load() {
     }
   }
 
-  auto& indicatif = programme_.Fenetre<DDFM>().Indicatif_A;
+  TextField& indicatif = programme_.Principale().Champ_Indicatif();
   if (type_ == 0) {
     Label9.SetCaption("Type de QSO ");
     Label10.SetCaption(" non gere sur ce PC");

@@ -5,8 +5,8 @@
 
 #include "core/errors.h"
 #include "core/log_file.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "exchange/adif_export.h"
 
 namespace vorelio {
@@ -71,7 +71,7 @@ bool Export_Adif::Ecrit_Fichier(double debut, double fin) {
   if (fin > Nombre_De_Lignes(log)) return false;
   const auto tranche = Option1.Set() ? std::nullopt : std::optional(Tranche{debut, fin});
   programme_.Disque().WriteAll(programme_.Chemin_Station(kFin),
-                               Fichier_Adif(programme_.Fenetre<DDFM>().I_Station.Caption(), log, tranche));
+                               Fichier_Adif(programme_.Principale().Indicatif_Affiche(), log, tranche));
   return true;
 }
 

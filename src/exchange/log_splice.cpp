@@ -7,8 +7,8 @@
 #include "core/errors.h"
 #include "core/log_file.h"
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 
 namespace vorelio {
 
@@ -86,12 +86,11 @@ Import_Log::~Import_Log() { Active_Menus(true); }
 
 // Events are served during an import: a second one would take the first one's marker away.
 void Import_Log::Active_Menus(bool actif) {
-  if (auto* ddfm = programme_.Ouverte<DDFM>())
-    EnableAll({&ddfm->Mnu_Import_ADIF, &ddfm->Mnu_Import_EDI, &ddfm->Mnu_Import_CTF}, actif);
+  if (auto* principale = programme_.Ouverte<Fenetre_Principale>()) principale->Permet_Imports(actif);
 }
 
 bool Import_Log::Choisit_Fichier() {
-  programme_.Fenetre<DDFM>().Etat.SetCaption("");
+  programme_.Principale().Dit("");
   Ajoute_Ligne_Log(programme_, Ligne_Repere(genre_.heures_repere));
   fichier_ = programme_.Choisit_Fichier(std::string(genre_.filtre));
   if (fichier_.empty()) programme_.Message("selectionnez un fichier ou quitter");
@@ -158,17 +157,17 @@ void Import_Log::Remplace_Log(std::string_view lignes) {
 }
 
 void Import_Log::Annonce_Avance() {
-  programme_.Fenetre<DDFM>().Etat.SetCaption(std::string("Import ").append(genre_.nom) + " : enregistrement n° "_t +
-                                             std::to_string(lues_));
+  programme_.Principale().Dit(std::string("Import ").append(genre_.nom) + " : enregistrement n° "_t +
+                              std::to_string(lues_));
 }
 
 void Import_Log::Recharge() {
   Charge_Log(programme_, programme_.contexte.Station_Indicatif);
-  auto& ddfm = programme_.Fenetre<DDFM>();
-  ddfm.Liste_QSO.SetListIndex(ddfm.Liste_QSO.Count() - 1);
-  ddfm.Etat.SetCaption(std::string("Import ").append(genre_.nom) + " : " +
-                       Compte(lues_, "enregistrement lu", "enregistrements lus") + ", " +
-                       Compte(ajoutees_, "ligne ajoutée"_t, "lignes ajoutées"_t));
+  auto& principale = programme_.Principale();
+  principale.Journal().SetListIndex(principale.Journal().Count() - 1);
+  principale.Dit(std::string("Import ").append(genre_.nom) + " : " +
+                 Compte(lues_, "enregistrement lu", "enregistrements lus") + ", " +
+                 Compte(ajoutees_, "ligne ajoutée"_t, "lignes ajoutées"_t));
 }
 
 }  // namespace vorelio

@@ -1,7 +1,7 @@
 #include "maintenance/add_activity_window.h"
 
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "maintenance/activities.h"
 
 namespace vorelio {
@@ -27,7 +27,7 @@ void Ajout_Activite::Command1_Click() {
   nombre = reglages.Nombre_Activites(2);
   reglages.Ecrit_Station(Cle_Activite(nombre), Nom_Activ.Text());
   reglages.Ecrit_Station("NB Activite", std::to_string(nombre + 1));
-  programme_.Fenetre<DDFM>().Charge_Activites(2, "err5");
+  programme_.Principale().Charge_Activites(2, "err5");
   Unload();
 }
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "printing/log_listing.h"
 
 namespace vorelio {
@@ -24,7 +24,7 @@ void Print_Log::Command1_Click() {
     if (numero->find_first_not_of("0123456789") != std::string::npos)
       return programme_.Message("Que des chiffres pour le N° de ligne"_t);
   if (Valeur(debut) < 1) return programme_.Message("Le N° de la ligne de debut d'impression doit etre superieur a 1"_t);
-  if (Valeur(fin) > programme_.Fenetre<DDFM>().Liste_QSO.Count())
+  if (Valeur(fin) > programme_.Principale().Journal().Count())
     return programme_.Message("Le N° de la ligne de fin d'impression n'existe pas"_t);
   // As texts, not as numbers: 9 to 10 is refused, 10 to 9 prints no line. Operators have learnt to write 09.
   if (fin < debut) return programme_.Message(" Le N° de début doit etre anterieur au N° de fin"_t);

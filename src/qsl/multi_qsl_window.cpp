@@ -1,8 +1,8 @@
 #include "qsl/multi_qsl_window.h"
 
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "qsl/qsl_state.h"
 #include "qsl/qsl_window.h"
 
@@ -47,7 +47,7 @@ void Multi_QSL::Recherche_Click() {
   const std::string motif = Majuscules(Indicatif.Text());
   // The state of a contact that has the other card alone lacks this one.
   const std::string_view autre = Option1.Set() ? "3" : "2";
-  for (const std::string& ligne : programme_.Fenetre<DDFM>().Liste_QSO.Items()) {
+  for (const std::string& ligne : programme_.Principale().Journal().Items()) {
     const std::string_view etat = Lit_Liste(ligne, champs::Etat_QSL);
     if (Lit_Liste(ligne, champs::Indicatif_A).find(motif) == std::string_view::npos) continue;
     if (etat == "1" || etat == autre) Liste_QSO.AddItem(ligne);
@@ -55,7 +55,7 @@ void Multi_QSL::Recherche_Click() {
 }
 
 bool Multi_QSL::Enregistre_Coches() {
-  const auto& log = programme_.Fenetre<DDFM>().Liste_QSO;
+  const auto& log = programme_.Principale().Journal();
   auto& saisie = programme_.saisie;
   Lignes_Remplacees remplacees;
   // A card changes up to two tallies, and each change would wait for the device.
@@ -84,7 +84,7 @@ bool Multi_QSL::Enregistre_Coches() {
 
 void Multi_QSL::Enregistre_Click() {
   if (!Enregistre_Coches()) return programme_.Message("Selectionnez un ou plusieurs QSO");
-  programme_.Fenetre<DDFM>().Reprend_Apres_QSL();
+  programme_.Principale().Reprend_Apres_QSL();
   Unload();
 }
 

@@ -3,8 +3,8 @@
 #include "core/bands.h"
 #include "core/clock_text.h"
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "tallies/department_tally.h"
 #include "tallies/locator_tally.h"
 #include "tallies/tally_file.h"
@@ -54,8 +54,7 @@ void Maj_QSL(Programme& programme, const Genre_Carte& carte, Lignes_Remplacees& 
   const std::string depart = Forme_Pointage(std::string(Lit_Liste(ligne, champs::Depart_Court)));
   const std::string bande(Lit_Liste(ligne, champs::Bande_A));
   const std::string carre(Coupe(ligne, champs::Locator_A.colonne + kColonnes_Numero, 4));
-  const std::string aujourd_hui =
-      programme.Fenetre<DDFM>().Mnu_UTC_Oui.Checked() ? Date_UTC(programme) : Date_Locale(programme);
+  const std::string aujourd_hui = programme.Principale().Saisie_En_UTC() ? Date_UTC(programme) : Date_Locale(programme);
 
   std::string code, nom, ligne_dpt;
   Cherche_Departement(programme, depart, code, nom, bande, ligne_dpt);

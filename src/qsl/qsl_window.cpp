@@ -2,8 +2,8 @@
 
 #include "core/log_file.h"
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "qsl/multi_qsl_window.h"
 #include "qsl/qsl_state.h"
 
@@ -66,7 +66,7 @@ void QSL::Enregistre_Click() {
     Maj_QSL_Recue(programme_, remplacees);
     remplacees.Applique(programme_);
   }
-  programme_.Fenetre<DDFM>().Reprend_Apres_QSL();
+  programme_.Principale().Reprend_Apres_QSL();
   Hide();
   Unload();
 }

@@ -2,9 +2,9 @@
 
 #include "core/bands.h"
 #include "core/error_window.h"
+#include "core/main_window.h"
 #include "core/station_files.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "views/department_map.h"
 
 namespace vorelio::Sous_Programmes {
@@ -97,7 +97,7 @@ Compte_Departements Compte_Cellules(const Cellules& cellules) {
 }
 
 Compte_Departements Affiche_Departements(Programme& programme, std::string_view bande, int& total) {
-  const Cellules& grille = programme.Fenetre<DDFM>().Dpt;
+  const Cellules& grille = programme.Principale().Grille();
   Piege_Fichier_Station(programme, kSuite_Departement, [&] { Peint_Cellules(programme, bande, grille, total); });
   // What the cells show in the end counts, not the lines: two lines of one cell are one department here. Where the map
   // of the departments is open its cells count, though they may be of another band.

@@ -2,9 +2,9 @@
 
 #include "core/bands.h"
 #include "core/error_window.h"
+#include "core/main_window.h"
 #include "core/station_files.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "tallies/tally_file.h"
 #include "views/locator_maps.h"
 
@@ -52,7 +52,7 @@ void Maj_Locator(Programme& programme, std::string_view carre, std::string_view 
 
 void Affiche_Locators(Programme& programme, std::string_view bande, std::string_view champ, int& total) {
   const std::string texte = programme.Disque().ReadAll(programme.Chemin_Station(kSuite_Locator));
-  const Cellules& grille = programme.Fenetre<DDFM>().Dpt;
+  const Cellules& grille = programme.Principale().Grille();
   Carte_Champ* carte = Carte_Du_Champ(programme, champ);
   total = 0;
   // The pale colour tells the squares from the departments.

@@ -9,9 +9,9 @@
 #include "core/errors.h"
 #include "core/log_file.h"
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/station_files.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "tallies/department_tally.h"
 #include "tallies/locator_tally.h"
 #include "tallies/prefix_tally.h"
@@ -223,8 +223,8 @@ void Refait_Locators(Programme& programme) {
     programme.Termine();
     throw Fin_Programme{};
   }
-  auto& ddfm = programme.Fenetre<DDFM>();
-  Affiche_Locators(programme, ddfm.Bande_DDFM.Text(), ddfm.Carre_DDFM.Text(), contexte.Nb_Contactes);
+  auto& principale = programme.Principale();
+  Affiche_Locators(programme, principale.Bande_Choisie(), principale.Champ_Choisi(), contexte.Nb_Contactes);
   contexte.Bande_Grille = contexte.Bande_Courante;
   Affiche_Departements(programme, contexte.Bande_Grille, contexte.Nb_Contactes);
   Annonce_La_Fin(programme);

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/main_window.h"
 #include "platform/controls.h"
 #include "platform/disk.h"
 
@@ -29,9 +30,6 @@ std::string Avec_Code(std::string_view ligne, int colonne, std::string_view code
 
 /// The colour of a cell with `code` "1" to "4"; false, and `couleur` as it was, for any other code.
 bool Couleur_Code(std::string_view code, Couleur& couleur);
-
-/// The cells of a grid or a map, 0 to 99.
-using Cellules = ControlArray<TextField>;
 
 void Efface_Cellules(const Cellules& cellules, Couleur fond);
 

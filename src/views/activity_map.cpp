@@ -7,7 +7,6 @@
 #include "core/bands.h"
 #include "core/log_file.h"
 #include "core/log_line.h"
-#include "entry/ddfm.h"
 #include "maintenance/activities.h"
 #include "views/map_cells.h"
 

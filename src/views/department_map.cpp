@@ -3,8 +3,8 @@
 #include <string>
 
 #include "core/bands.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "views/map_cells.h"
 
 namespace vorelio {
@@ -36,7 +36,7 @@ void Carte::Form_Load() {
 
 void Carte::Bande_S_Click() {
   auto& contexte = programme_.contexte;
-  auto& principale = programme_.Fenetre<DDFM>();
+  auto& principale = programme_.Principale();
   contexte.Bande_Grille = Bande_S.Text();
   const Compte_Departements compte = Dessine_Carte_Dpt(programme_, Bande_S.Text(), contexte.Nb_Contactes);
   Nb_Carte.SetCaption(Texte_Nombre_Blanc(contexte.Nb_Contactes) + " Départements sur "_t + Bande_S.Text());
@@ -45,7 +45,7 @@ void Carte::Bande_S_Click() {
   QR.SetCaption(Texte_Nombre(compte.recues));
   DC.SetCaption(Texte_Nombre(compte.confirmees));
   // The grid goes back to the band of its own list, while its frame names that of the map.
-  Affiche_Departements(programme_, principale.Bande_DDFM.Text(), contexte.Nb_Contactes);
+  Affiche_Departements(programme_, principale.Bande_Choisie(), contexte.Nb_Contactes);
   principale.Legende_Departements();
 }
 
@@ -53,7 +53,7 @@ namespace Sous_Programmes {
 
 Compte_Departements Dessine_Carte_Dpt(Programme& programme, std::string_view bande, int& total) {
   auto& carte = programme.Fenetre<Carte>();
-  Efface_Cellules(programme.Fenetre<DDFM>().Dpt, kFond_Fenetre);
+  Efface_Cellules(programme.Principale().Grille(), kFond_Fenetre);
   Peint_Cellules(programme, bande, carte.Dep, total);
   carte.Bande_Carte.SetCaption(bande);
   return Compte_Cellules(carte.Dep);

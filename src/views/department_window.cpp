@@ -1,8 +1,8 @@
 #include "views/department_window.h"
 
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "tallies/department_tally.h"
 #include "views/found_line.h"
 
@@ -24,7 +24,7 @@ void Affiche_Dpt::Form_Load() {
 
 void Affiche_Dpt::Montre_Departement(int cellule) {
   std::string departement = Deux_Chiffres(cellule);
-  const auto& log = programme_.Fenetre<DDFM>().Liste_QSO.Items();
+  const auto& log = programme_.Principale().Journal().Items();
   // The grid numbers Corsica, the log writes its letters. An empty log leaves the number.
   if (!log.empty()) departement = Sous_Programmes::Forme_Affichee(departement);
   for (const std::string& element : log)

@@ -1,12 +1,12 @@
 #include "views/found_line.h"
 
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 
 namespace vorelio {
 
 void Selectionne_Dans_Log(Programme& programme, std::string_view ligne) {
-  ListBox& log = programme.Fenetre<DDFM>().Liste_QSO;
+  ListBox& log = programme.Principale().Journal();
   const std::string_view cherchee = Coupe(ligne, 1, kColonnes_Trouvees);
   for (int i = 0; i < log.Count(); ++i)
     if (Coupe(log.Item(i), 1, kColonnes_Trouvees) == cherchee) log.SetListIndex(i);

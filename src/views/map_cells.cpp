@@ -5,8 +5,6 @@
 
 namespace vorelio {
 
-using Sous_Programmes::Cellules;
-
 namespace {
 
 std::string Texte_Departement(int numero) {

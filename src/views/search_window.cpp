@@ -2,8 +2,8 @@
 
 #include "core/errors.h"
 #include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "printing/listing.h"
 #include "qsl/state_words.h"
 #include "views/found_line.h"
@@ -107,7 +107,7 @@ bool Recherche_Indicatif::Refuse_Reference() {
 bool Recherche_Indicatif::Parcourt(int option, std::string& texte, const Preneur& prend) {
   Mot_QSL lettre = Lettre_QSL();
   std::string cherche = Texte_Cherche(texte, option);
-  for (const std::string& element : programme_.Fenetre<DDFM>().Liste_QSO.Items()) {
+  for (const std::string& element : programme_.Principale().Journal().Items()) {
     // A pasted text can begin with the end of a line.
     if (texte.starts_with(kFin_De_Ligne)) {
       texte.erase(0, kFin_De_Ligne.size());
@@ -146,7 +146,7 @@ void Recherche_Indicatif::Cherche() {
 
 void Recherche_Indicatif::Imprimer_Click() {
   Impression impression(programme_, kTaille_Imprimee, Impression::Gras::Rendu);
-  const auto& log = programme_.Fenetre<DDFM>().Liste_QSO.Items();
+  const auto& log = programme_.Principale().Journal().Items();
   const int option = Option_Choisie();
   const Preneur imprime = [&](const std::string& element, const std::string& lettre) {
     impression.Ligne(option == kIndicatif ? Ligne_Courte(element, lettre) : Ligne_Trouvee(element, lettre));
