@@ -4,6 +4,7 @@
 #include "tallies/department_tally.h"
 #include "tallies/locator_tally.h"
 #include "views/department_window.h"
+#include "views/tally_painting.h"
 
 namespace vorelio {
 

@@ -28,6 +28,7 @@
 #include "views/distance_statistics_window.h"
 #include "views/locator_maps.h"
 #include "views/qso_statistics_window.h"
+#include "views/tally_painting.h"
 
 namespace vorelio {
 

@@ -4,6 +4,7 @@
 #include "qsl/qsl_window.h"
 #include "tallies/department_tally.h"
 #include "views/search_window.h"
+#include "views/tally_painting.h"
 
 namespace vorelio {
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <initializer_list>
 #include <memory>
@@ -9,6 +8,8 @@
 #include <string_view>
 #include <unordered_map>
 #include <vector>
+
+#include "platform/colours.h"
 
 /// The windows as the logic sees them: plain objects with a name, the properties that the logic uses and the events
 /// that it needs. They draw nothing; a view may watch each of them and show it on a screen.
@@ -22,14 +23,6 @@ namespace vorelio {
 class Form;
 class Programme;
 class WindowService;
-
-/// A colour as a blue-green-red word, 0xBBGGRR, or one of the system's.
-using Couleur = std::uint32_t;
-
-inline constexpr Couleur kFond_Fenetre = 0x80000005;  ///< The system's window background.
-inline constexpr Couleur kFace_Bouton = 0x8000000F;   ///< The system's button face.
-inline constexpr Couleur kSaisie = 0xC0FFC0;          ///< Light green: the field being entered.
-inline constexpr Couleur kFait = 0xC0FFFF;            ///< Light yellow: a field that is done.
 
 /// Character 13 of a key press.
 inline constexpr int kEntree = 13;

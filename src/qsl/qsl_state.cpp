@@ -8,6 +8,7 @@
 #include "tallies/department_tally.h"
 #include "tallies/locator_tally.h"
 #include "tallies/tally_file.h"
+#include "views/tally_painting.h"
 
 namespace vorelio::Sous_Programmes {
 

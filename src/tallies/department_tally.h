@@ -4,8 +4,6 @@
 #include <string_view>
 
 #include "core/programme.h"
-#include "platform/controls.h"
-#include "tallies/tally_file.h"
 
 /// The departments worked, `<station>_Departement.txt`: a line per department, by 1-based column: 1-2 key ("01" to
 /// "95", "96" and "97" for Corsica), 4-20 one code per band, from 22 on the name. Codes: "0" not worked, "1" worked,
@@ -28,29 +26,5 @@ void Cherche_Departement(Programme& programme, std::string_view departement, std
 /// Writes the one-character `code` into the column of `bande`, on every line with that key, whatever stood there; by
 /// way of `Temporaire2.txt`. A missing file is run-time error 53.
 void Maj_Departement(Programme& programme, std::string_view departement, std::string_view code, std::string_view bande);
-
-/// What a painting of the departments has counted.
-struct Compte_Departements {
-  int sans = 0;        ///< Worked, no QSL.
-  int envoyees = 0;    ///< QSL sent.
-  int recues = 0;      ///< QSL received.
-  int confirmees = 0;  ///< Both.
-};
-
-/// The cell of a department's key, 0 to 99: its number, with Corsica ("2a", "2A", "2b", "2B") at 96 and 97. A key that
-/// is no number is run-time error 13.
-int Cellule_Departement(std::string_view cle);
-
-/// Paints 100 cells with the codes of `bande` and sets `total` to the departments worked. A missing file is run-time
-/// error 53, a key that no cell has error 9.
-void Peint_Cellules(Programme& programme, std::string_view bande, const Cellules& cellules, int& total);
-
-/// Counts the cells of each colour.
-Compte_Departements Compte_Cellules(const Cellules& cellules);
-
-/// Paints the cells `Dpt` of the main window with the codes of `bande`, sets `total` to the departments worked, and
-/// counts what the cells of the map `Carte` show, if it is open, else those of the grid. A missing file opens
-/// `Gestion_Erreur`, and the procedure never returns; any other error ends the program.
-Compte_Departements Affiche_Departements(Programme& programme, std::string_view bande, int& total);
 
 }  // namespace vorelio::Sous_Programmes

@@ -22,9 +22,4 @@ void Cherche_Locator(Programme& programme, std::string_view locator, std::string
 /// `Temporaire3.txt`; a band without a column changes nothing. A missing file is run-time error 53.
 void Maj_Locator(Programme& programme, std::string_view carre, std::string_view code, std::string_view bande);
 
-/// Paints the cells `Dpt` of the main window, and those of the field's map if it is one of the nine, with the squares
-/// of the field `champ`, and sets `total` to the squares worked. The map is loaded for it, but not shown. A missing
-/// file is run-time error 53.
-void Affiche_Locators(Programme& programme, std::string_view bande, std::string_view champ, int& total);
-
 }  // namespace vorelio::Sous_Programmes

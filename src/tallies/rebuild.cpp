@@ -18,6 +18,7 @@
 #include "tallies/progress_window.h"
 #include "tallies/tally_file.h"
 #include "tallies/tally_table.h"
+#include "views/tally_painting.h"
 
 namespace vorelio::Sous_Programmes {
 

@@ -1,7 +1,6 @@
 #include "tallies/tally_file.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/text.h"
 
@@ -17,17 +16,6 @@ std::string Avec_Code(std::string_view ligne, int colonne, std::string_view code
   remplit(premiere, ' ');
   remplit(colonne, '0');
   return neuve.append(Complete(code, 1)).append(Coupe(ligne, colonne + 1));
-}
-
-bool Couleur_Code(std::string_view code, Couleur& couleur) {
-  constexpr std::array kCouleurs = {kDpt_Contacte, kDpt_QSL_Envoyee, kDpt_QSL_Recue, kDpt_Confirme};
-  if (code.size() != 1 || code[0] < '1' || code[0] > '4') return false;
-  couleur = kCouleurs[static_cast<std::size_t>(code[0] - '1')];
-  return true;
-}
-
-void Efface_Cellules(const Cellules& cellules, Couleur fond) {
-  for (const auto& cellule : cellules) cellule->SetColour(fond);
 }
 
 void Ecrit_Temporaire(Disk& disque, const std::string& chemin, const std::string& temporaire,

@@ -5,7 +5,7 @@
 #include "core/programme.h"
 #include "core/text.h"
 #include "platform/controls.h"
-#include "tallies/department_tally.h"
+#include "views/tally_painting.h"
 
 namespace vorelio {
 

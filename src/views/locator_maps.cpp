@@ -7,8 +7,8 @@
 
 #include "core/bands.h"
 #include "core/text.h"
-#include "tallies/locator_tally.h"
 #include "views/map_cells.h"
+#include "views/tally_painting.h"
 
 namespace vorelio {
 

@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "core/main_window.h"
 #include "platform/controls.h"
-#include "tallies/tally_file.h"
 #include "views/map_places.h"
 
 namespace vorelio {

@@ -2,6 +2,7 @@
 
 #include "entry/ddfm.h"
 #include "support/station_fixture.h"
+#include "views/tally_painting.h"
 
 namespace vorelio::tests {
 namespace {

@@ -3,6 +3,7 @@
 #include "core/error_window.h"
 #include "entry/ddfm.h"
 #include "support/station_fixture.h"
+#include "views/tally_painting.h"
 
 namespace vorelio::tests {
 namespace {

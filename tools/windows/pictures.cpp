@@ -48,6 +48,7 @@
 #include "views/locator_maps.h"
 #include "views/qso_statistics_window.h"
 #include "views/search_window.h"
+#include "views/tally_painting.h"
 
 /// Saves a picture of every window, light and dark, with a made-up station and its log.
 using namespace vorelio;

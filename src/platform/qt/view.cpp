@@ -6,7 +6,7 @@
 #include <QScopedValueRollback>
 
 #include "core/programme.h"
-#include "tallies/tally_file.h"
+#include "platform/colours.h"
 
 namespace vorelio {
 
