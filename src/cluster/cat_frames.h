@@ -54,8 +54,8 @@ using Parametres_CAT = std::array<std::uint8_t, 4>;
 /// Eight decimal digits as bytes of two, the high pair first. `frequence` is in units of 10 Hz.
 Parametres_CAT Qrg_Bcd(int frequence);
 
-/// The digits of the text `frequence` in reverse order, filled with "0" behind, and their bytes; the text becomes what
-/// was packed. Text that is no number is run-time error 13.
+/// The digits of the text `frequence` in reverse order, filled with "0" at the end, and their bytes; the text becomes
+/// what was packed. Text that is no number is run-time error 13.
 Parametres_CAT Qrg_Bcd_Inverse(std::string& frequence);
 
 /// The frequency in Hz as ten digits, two to a byte, each byte written as "&H" and its value in decimal. Only the first

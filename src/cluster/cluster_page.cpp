@@ -13,7 +13,7 @@ constexpr int kLargeur_DX = 12, kLargeur_QRG = 8, kLargeur_Spotter = 11;
 
 constexpr std::string_view kDebut_Table = "<TABLE>", kFin_Table = "</TABLE>";
 
-/// Where a field stands in its line: behind `debut`, up to `fin`. `ecart` is how far behind the place of `debut` it
+/// Where a field stands in its line: after `debut`, up to `fin`. `ecart` is how far after the place of `debut` it
 /// starts, `retrait` what is taken off the distance of the two marks to give its length.
 struct Reperes {
   std::string_view debut, fin;

@@ -62,7 +62,7 @@ struct Spot {
   std::string Remarques;  ///< As they come.
 };
 
-/// The spots of a page's first table, one after another: a row is seven lines, and the heading behind "<TABLE>" another
+/// The spots of a page's first table, one after another: a row is seven lines, and the heading after "<TABLE>" another
 /// seven. A page without a table has no spot. The text must outlive the reader.
 class Lecteur_Spots {
  public:
@@ -71,7 +71,7 @@ class Lecteur_Spots {
   explicit Lecteur_Spots(std::string_view texte);
   explicit Lecteur_Spots(std::string&&) = delete;
 
-  /// The next spot, or nothing behind the last one. Run-time error 62: the page ends within a row; 5: a mark is
+  /// The next spot, or nothing after the last one. Run-time error 62: the page ends within a row; 5: a mark is
   /// missing, or a frequency or a spotter too long for its column.
   std::optional<Spot> Suivant();
 

@@ -11,7 +11,7 @@ class Memoire_CL : public Form {
   explicit Memoire_CL(Programme& programme);
 
   void Form_Load() override { Centre(); }
-  /// The closing goes on behind this, and the list with it.
+  /// The closing goes on after this, and the list with it.
   void Form_Unload() override { Hide(); }
 
   Label Label3{*this, "Label3"};  ///< Heading of the list.

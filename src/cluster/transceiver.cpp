@@ -12,7 +12,7 @@ namespace vorelio {
 
 namespace {
 
-/// What ends the settings of a port behind its speed: no parity, eight bits, one stop bit.
+/// What ends the settings of a port after its speed: no parity, eight bits, one stop bit.
 constexpr std::string_view kFormat = ",n,8,1";
 
 /// A port that takes nothing for so long is given up.

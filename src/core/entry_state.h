@@ -5,8 +5,8 @@
 namespace vorelio {
 
 /// What the entry chain finds out about the contact being typed, until the save uses it. Most of it isn't cleared
-/// between two contacts: a value stays until the field that sets it is passed again, and logs of earlier versions were
-/// tallied with it.
+/// between two contacts: a value stays until the field that sets it is passed again, and the tallies in operators'
+/// folders are kept with it.
 struct Etat_Saisie {
   std::string Indicatif_Saisi;       ///< Callsign, upper case.
   std::string Prefixe_Nouveau;       ///< "O" if the prefix is new on the band, else "N".

@@ -45,7 +45,8 @@ void Piege_Fichier_Station(Programme& programme, std::string_view suite, const s
     fenetre.Show();
     programme.Attend_La_Fin();
   }
-  // No other error is survived. Its number has always been 13 here; its own words tell the user what it was.
+  // No other error is survived. It is told as 13, the number that the manual explains for a tally that can't be read;
+  // its own words say what it was.
   programme.Evenement([&] { throw Erreur_Execution(Erreur::Type_Incompatible, erreur->Texte()); });
 }
 

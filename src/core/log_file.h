@@ -12,7 +12,7 @@ namespace vorelio::Sous_Programmes {
 /// The text of the current station's log. A missing log is run-time error 53.
 std::string Texte_Log(Programme& programme);
 
-/// Fills a list with the log of `station`, each line behind its number. Events are served meanwhile. A missing log is
+/// Fills a list with the log of `station`, each line after its number. Events are served meanwhile. A missing log is
 /// run-time error 53, a line beyond the 99999th is error 5; the list is empty then, or ends before that line.
 void Liste_Log(Programme& programme, std::string_view station, ListBox& liste);
 

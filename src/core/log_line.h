@@ -66,7 +66,7 @@ inline std::string_view Lit_Liste(std::string_view ligne, const Champ& champ) {
   return Rogne(Champ_Liste(ligne, champ));
 }
 
-/// The 199 characters of a `Ligne_Liste` behind its number.
+/// The 199 characters of a `Ligne_Liste` after its number.
 inline std::string_view Partie_Log(std::string_view ligne_liste) {
   return Coupe(ligne_liste, kColonnes_Numero + 1, kLargeur_Ligne);
 }

@@ -6,7 +6,7 @@
 
 namespace vorelio {
 
-/// What the names of a station's files end with, behind its callsign; the log ends with ".log".
+/// What the names of a station's files end with, after its callsign; the log ends with ".log".
 inline constexpr const char* kSuite_Departement = "_Departement.txt";
 inline constexpr const char* kSuite_Locator = "_Locator.txt";
 inline constexpr const char* kSuite_Prefixe = "_Prefixe.txt";

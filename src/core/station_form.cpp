@@ -167,7 +167,7 @@ void Station::Validation_Click() {
   const std::string locator = Majuscules(New_Locator.Text());
   if (!Locator_Bon(locator)) return;
 
-  // From here on a failure doesn't keep the steps behind it from being tried.
+  // From here on a failure doesn't keep the steps after it from being tried.
   if (Nouvel_Indicatif_Choisi()) Essaie([&] { Ajoute_A_La_Liste(indicatif, locator); });
 
   // Only a log that isn't there makes a new station. One that merely can't be read now must not be copied over.

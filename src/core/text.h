@@ -25,7 +25,7 @@ inline constexpr char32_t kPoints_80_9F[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0
                                                0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// Reads one UTF-8 character at `place` and moves behind it; a broken sequence gives U+FFFD and moves by one.
+/// Reads one UTF-8 character at `place` and moves after it; a broken sequence gives U+FFFD and moves by one.
 constexpr char32_t Point_Suivant(std::string_view utf8, std::size_t& place) {
   constexpr char32_t kCasse = 0xFFFD;
   const auto tete = static_cast<unsigned char>(utf8[place++]);

@@ -183,7 +183,7 @@ class DDFM : public Fenetre_Principale {
   void Montre_QSL();
   /// Empties the fields of a contact, as before a new one.
   void Vide_Saisie();
-  /// Waits for a callsign, every field behind it locked.
+  /// Waits for a callsign, every field after it locked.
   void Attend_Indicatif();
 
   // Grid.

@@ -15,7 +15,7 @@ namespace {
 struct Reference {
   std::string_view activite;
   std::string_view prefixe;  ///< Start of `QTH_A`.
-  int curseur;               ///< Characters before the caret, behind the prefix.
+  int curseur;               ///< Characters before the caret, after the prefix.
   std::string_view debut;    ///< Start of `Remarques_A`; empty: it stays as it is.
   std::size_t longueur = 0;  ///< Of `QTH_A` at the end; 0: only the general limit.
   int departement = 0;       ///< Column of `QTH_A` at which the department of the contact stands; 0: none.

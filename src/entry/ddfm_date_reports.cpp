@@ -8,7 +8,7 @@ using namespace Sous_Programmes;
 
 namespace {
 
-/// The caret stands behind a report's "59".
+/// The caret stands after a report's "59".
 constexpr int kDerriere_59 = 3;
 
 const std::string kHeure_Longueur = "Attention 5 caracteres pour l'heure (format hh:mm. Les ':' sont automatique)";
@@ -17,7 +17,7 @@ bool Vide(const TextField& champ) { return champ.Text().empty() || champ.Text() 
 
 }  // namespace
 
-// The text gets its separator before the key joins it, so that the next digit lands behind.
+// The text gets its separator before the key joins it, so that the next digit lands after it.
 void DDFM::Separe(TextField& champ, std::string_view separateur) {
   champ.SetText(champ.Text() + std::string(separateur));
   champ.SetCaret(static_cast<int>(champ.Text().size()));

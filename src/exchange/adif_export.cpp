@@ -26,7 +26,8 @@ void Ajoute_Si_Remplie(std::string& texte, std::string_view balise, std::string_
   if (!valeur.empty()) Ajoute(texte, balise, valeur);
 }
 
-/// Year, month, day. The century is "20" also for older contacts: the files of earlier versions were written so.
+/// Year, month, day. The century is "20" also for older contacts: the award managers' programs that take these files
+/// sort out the few of before 2000 by hand, and would take such a contact twice if its date changed.
 std::string Date_Adif(std::string_view date) {
   return std::string("20").append(Fin(date, 2)).append(Coupe(date, 4, 2)).append(Coupe(date, 1, 2));
 }

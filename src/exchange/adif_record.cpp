@@ -46,7 +46,7 @@ std::string Morceaux(std::string_view valeur, std::initializer_list<std::pair<in
 
 std::string Heure(std::string_view valeur) { return Morceaux(valeur, {{1, 2}, {3, 2}}, ':'); }
 
-/// A report, and the number of the exchange behind it.
+/// A report, and the number of the exchange after it.
 std::string Rapport(std::string_view ligne, std::string_view balise, std::string_view balise_numero) {
   std::string rapport = Champ_Ou(ligne, balise, "XX");
   if (const auto numero = Champ_ADIF(ligne, balise_numero)) rapport.append(numero->empty() ? "XX" : *numero);
@@ -91,7 +91,7 @@ std::string Convertit(std::string_view ligne, char& etat_QSL, std::vector<std::s
   const std::string date = Champ_Ou(ligne, "<QSO_DATE", "");
   qso.Date_A = Morceaux(date, {{7, 2}, {5, 2}, {3, 2}}, '/');
   if (date.empty()) {
-    // It fills its ten columns; whoever reads eight of them finds 2020, as always.
+    // It fills its ten columns, the gap included; whoever reads the eight of the date finds 2020.
     qso.Date_A = "01/01/2000";
     messages.push_back("Date absente, remplacée par 01/01/2000"_t);
   }

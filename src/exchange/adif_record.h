@@ -9,15 +9,15 @@
 /// "<". Neither the lengths in the tags nor <EOR> count.
 namespace vorelio {
 
-/// Moment of the first record behind the header; without a line that begins with "<EOH>" both texts are empty. A file
+/// Moment of the first record after the header; without a line that begins with "<EOH>" both texts are empty. A file
 /// that ends with its header is run-time error 62, a first record without date or time is error 5.
 Premier_Moment Premier_ADIF(std::string_view texte);
 
-/// The lines behind the header that aren't empty. They look into `texte`.
+/// The lines after the header that aren't empty. They look into `texte`.
 std::vector<std::string_view> Enregistrements_ADIF(std::string_view texte);
 
 /// Makes a log line of a record. `etat_QSL` is the state of the record before, and becomes that of this one: a pair of
-/// QSL fields that means nothing leaves it. Errors: 5 for a tag without a "<" behind it, an empty <STATE, a value that
+/// QSL fields that means nothing leaves it. Errors: 5 for a tag without a "<" after it, an empty <STATE, a value that
 /// has no room in its columns.
 Ligne_Importee Ligne_ADIF(std::string_view enregistrement, char& etat_QSL);
 

@@ -26,7 +26,7 @@ class Champs_EDI {
     return champ;
   }
 
-  /// A report and the number behind it.
+  /// A report and the number after it.
   std::string Rapport_Et_Numero() {
     std::string rapport(Suivant());
     return rapport.append(Suivant());

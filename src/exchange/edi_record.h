@@ -16,7 +16,7 @@ struct Fichier_EDI {
   std::vector<std::string_view> enregistrements;
 };
 
-/// Reads up to the first empty line behind "[QSORecords". A file that ends with that line is run-time error 62.
+/// Reads up to the first empty line after "[QSORecords". A file that ends with that line is run-time error 62.
 Fichier_EDI Lit_Fichier_EDI(std::string_view texte);
 
 /// Makes a log line of a record. Errors: 5 for a field that is missing or has no room in its columns.

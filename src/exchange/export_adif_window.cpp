@@ -51,7 +51,7 @@ void Export_Adif::Exporter_Click() {
     return programme_.Message("Entrez un N° de debut et de fin de QSO"_t);
   // Both tests look at the numbers also when they are hidden, as the whole log is chosen.
   const double debut = Valeur(Debut_Ligne.Text()), fin = Valeur(Fin_Ligne.Text());
-  // The box says the reverse of the test; its words have always been these.
+  // The box says the reverse of the test: operators, and what is written for them, know these words.
   if (fin < debut) return programme_.Message("Le N° de fin de ligne est superieur au N° de debut de ligne"_t);
 
   bool ecrit = false;

@@ -21,7 +21,7 @@ constexpr std::size_t kPas_Annonce = 500;
 
 void Ajoute_Ligne(std::string& texte, std::string_view ligne) { texte.append(ligne).append(kFin_De_Ligne); }
 
-/// The log on its way into the work file. Every line is asked for its date, also behind the place of the block.
+/// The log on its way into the work file. Every line is asked for its date, also after the place of the block.
 class Copie_Log {
  public:
   Copie_Log(std::string_view log, const Genre_Import& genre) : lignes_(log), genre_(genre) {}

@@ -6,7 +6,8 @@
 #include "core/programme.h"
 
 /// Locators, and the great circle between the centres of two sub-squares on a sphere of 40076.59 km circumference. The
-/// constants are those of earlier versions, and stay: distances in old logs were computed with them.
+/// constants stay as they are: the distances in operators' logs were computed with them, and are compared with new
+/// ones.
 namespace vorelio::Sous_Programmes {
 
 inline constexpr double Pi_Programme = 3.141592654;      ///< Ten digits on purpose.

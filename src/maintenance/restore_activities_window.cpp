@@ -21,7 +21,7 @@ void Restoration_Activite::Form_Load() {
   try {
     Charge_Liste();
   } catch (const Erreur_Execution& erreur) {
-    // The name is the wrong one, as users of earlier versions know it.
+    // The file that is named isn't the one that is missing: operators know the box by these words.
     annonce = erreur.Genre() == Erreur::Fichier_Introuvable
                   ? "Fichier " + programme_.contexte.Station_Indicatif + "_Prefixe.txt Absent"
                   : "Erreur N° "_t + std::to_string(erreur.Numero());

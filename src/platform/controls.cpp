@@ -158,7 +158,7 @@ void ListControl::InsertAt(int index, std::string_view text) {
 void ListControl::Merge(std::vector<std::string> texts) {
   if (texts.empty()) return;
   const auto old = static_cast<std::ptrdiff_t>(items_.size());
-  // The selected row moves behind the new ones that come before it.
+  // The selected row moves after the new ones that come before it.
   if (index_ >= 0)
     index_ += static_cast<int>(std::lower_bound(texts.begin(), texts.end(), Item(index_)) - texts.begin());
   items_.insert(items_.end(), std::make_move_iterator(texts.begin()), std::make_move_iterator(texts.end()));

@@ -123,9 +123,9 @@ class TextField : public Control {
 
   int Caret() const { return caret_; }
   int SelectionLength() const { return selection_; }
-  /// Puts the caret behind `position` characters, clipped to the text, and selects `length` more.
+  /// Puts the caret after `position` characters, clipped to the text, and selects `length` more.
   void SetCaret(int position, int length = 0);
-  /// Puts `text` in place of the selection, the caret behind it.
+  /// Puts `text` in place of the selection, the caret after it.
   void ReplaceSelection(std::string_view text);
 
   bool MultiLine() const { return multi_line_; }
@@ -182,7 +182,7 @@ class ListControl : public Control {
   /// Selects without a click.
   virtual void TakeIndex(int index);
   void InsertAt(int index, std::string_view text);
-  /// Puts sorted rows among the sorted ones that are there, behind equal ones.
+  /// Puts sorted rows among the sorted ones that are there, after equal ones.
   void Merge(std::vector<std::string> texts);
   void EraseAt(int index);
 
@@ -199,7 +199,7 @@ class ListBox : public ListControl {
 
   Kind Genre() const { return kind_; }
 
-  /// Adds a row: at the end, or in a sorted list at its place by the bytes of the text, behind equal ones.
+  /// Adds a row: at the end, or in a sorted list at its place by the bytes of the text, after equal ones.
   void AddItem(std::string_view text);
   /// Adds many rows, each as `AddItem` would, in the time of one sort.
   void AddItems(std::vector<std::string> texts);

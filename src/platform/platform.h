@@ -133,7 +133,7 @@ class PageService {
  public:
   virtual ~PageService() = default;
   /// The page as text, whole. Waits for it, serving events, for `timeout_s` seconds at most. Error 71 if the site
-  /// doesn't answer or has no such page; also when `abandoned` says so, which is asked behind each event.
+  /// doesn't answer or has no such page; also when `abandoned` says so, which is asked after each event.
   virtual std::string Fetch(const std::string& url, int timeout_s, const Abandoned& abandoned) = 0;
 };
 

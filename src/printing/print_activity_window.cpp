@@ -23,7 +23,7 @@ void Print_Activite::Form_Load() {
 }
 
 void Print_Activite::Impression_Click() {
-  // The band of the listing becomes the one of the entry form: it has always been handed over there.
+  // The band of the listing becomes the one of the entry form, where the next contact's tallies are asked with it.
   programme_.contexte.Bande_Courante = Bande_Z.Text();
   Imprime_Activite(programme_, Imp_Activite.ListIndex() + 1, Imp_Activite.Text(), Bande_Z.Text());
   Unload();

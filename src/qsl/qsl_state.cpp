@@ -21,17 +21,17 @@ struct Genre_Carte {
   std::string_view bande_50;    ///< What is taken for the 50 MHz band.
   int carre_jusqu_a;            ///< Square codes up to this one become `etat_seule`, higher ones "4".
   Champ garde;                  ///< What of the QSL block stays before today's date.
-  int reste;                    ///< Characters at the line's end that stay behind it.
+  int reste;                    ///< Characters at the line's end that stay after it.
 };
 
 constexpr Genre_Carte kEnvoyee{"2", 3, "50 Mhz", 2, {137, 0, 0}, 55};
 
-// "50Mhz" without its blank is no band: a card received on 50 MHz never reaches the squares. The tallies of earlier
-// versions were kept so, and a rebuild is the way to even them out.
+// "50Mhz" without its blank is no band: a card received on 50 MHz never reaches the squares. The tallies in operators'
+// folders are kept so, card by card; a rebuild is the way to even them out.
 constexpr Genre_Carte kRecue{"3", 2, "50Mhz", 1, {137, 9, 0}, 46};
 
 /// The squares' turn: one of the seven bands of the contact, or the form's own band on 24 GHz, whatever the contact's
-/// is. Logs of earlier versions were tallied by that band.
+/// is: operators' tallies hold what that band gave, and a card must go on where the last one left them.
 bool Compte_Le_Carre(const Genre_Carte& carte, std::string_view bande, std::string_view bande_courante) {
   if (bande_courante == kBandes.back()) return true;
   if (bande == carte.bande_50) return true;

@@ -37,7 +37,7 @@ void Ajout_Prefixe::Ajouter_Click() {
   const std::string jamais_contacte(kBandes.size(), '0');
   std::string ligne = Complete(N_Prefixe.Text(), Colonne_Prefixe(kBandes.front()) - 1) + jamais_contacte + "  ";
   ligne.append(N_Pays.Text()).append(kFin_De_Ligne);
-  // Behind a last line that an editor has left open, the new one would become part of a country's name.
+  // After a last line that an editor has left open, the new one would become part of a country's name.
   if (Finit_Ouvert(programme_, fichier)) ligne.insert(0, kFin_De_Ligne);
   programme_.Disque().Append(fichier, ligne);
   Hide();

@@ -161,7 +161,8 @@ void Reconstruit_Locator(Pointage_Tenu& pointage, std::string_view carre, int ba
   const int indice = pointage.Table().Cherche(carre);
   const int premiere = Colonne_Locator(kBandes[kBandes_HF]);
   if (indice >= 0 && bande < kBandes_HF) {
-    // The reading ends here: this square and all below it are lost, as they always were.
+    // The reading ends here: a square worked on a band without squares is damage, and what stands below it in the
+    // tally isn't trusted.
     pointage.Table().Coupe_A_Partir(indice);
   } else if (indice >= 0) {
     pointage.Table().Monte_Code(indice, premiere + bande - kBandes_HF, etat, premiere);
@@ -170,7 +171,7 @@ void Reconstruit_Locator(Pointage_Tenu& pointage, std::string_view carre, int ba
 }
 
 /// The bands from 50 MHz to 10 GHz. Contacts on 24 GHz count only while the form is on that band, and then contacts of
-/// any band with a square do: locator tallies have always been rebuilt so.
+/// any band with a square do: so the operator of that band sees every square he has.
 bool Compte_Le_Carre(int bande, const Contexte_Station& contexte) {
   const int derniere = static_cast<int>(kBandes.size()) - 1;
   return (bande >= kBandes_HF && bande < derniere) || contexte.Bande_Courante == kBandes.back();

@@ -19,7 +19,7 @@ void Statistiques::Form_Load() {
   Centre();
   const std::string log = Sous_Programmes::Texte_Log(programme_);
   const Comptes_Distance comptes = Compte_Distances(log);
-  // The table has always read its bands through the band of the entry form.
+  // The band of the last line becomes that of the entry form: the next contact's tallies are asked with it.
   if (comptes.derniere_bande) programme_.contexte.Bande_Courante = *comptes.derniere_bande;
 
   int cellule = Text11.First();

@@ -156,7 +156,7 @@ void Recherche_Indicatif::Imprimer_Click() {
     Mot_QSL lettre = Lettre_QSL();
     for (const std::string& element : log) imprime(element, lettre.De(Lit_Liste(element, champs::Etat_QSL)));
   } else if (option == kDepartement) {
-    // The department of the last search isn't where this printing has always looked for it.
+    // A search by department keeps no text that a printing could start from: there is nothing to print by.
     if (!log.empty()) throw Erreur_Execution(Erreur::Objet_Absent);
   } else {
     std::string texte = option == kIndicatif ? Dernier_Indicatif : option == kDate ? Derniere_Date : Dernier_Locator;

@@ -26,7 +26,7 @@ Comptes_Distance Compte_Distances(std::string_view log) {
   std::string_view bande;
   bool vide = true;
   // Never set back between two lines: a distance without a class of its own is counted where the contact before it
-  // went, and as the first one nowhere. Operators compare the table with those of earlier versions.
+  // went, and as the first one nowhere: operators lay this table beside those they have printed.
   int classe = 0;
   for (Lecteur_Lignes lignes(log); !lignes.Fini(); vide = false) {
     const std::string_view ligne = lignes.Suivante();

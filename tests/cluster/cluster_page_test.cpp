@@ -10,7 +10,7 @@
 namespace vorelio::tests {
 namespace {
 
-/// The list lines of a page, or "error N" behind those that came before it.
+/// The list lines of a page, or "error N" after those that came before it.
 std::vector<std::string> Lines(std::string_view page, Tri order = Tri::QTR) {
   std::vector<std::string> lines;
   const std::string text = Fins_De_Ligne(Premiere_Ligne(Majuscules(page)));

@@ -163,7 +163,7 @@ TEST_F(Imports, AnEmptyLogAndAnEmptyLineInTheLog) {
   EXPECT_EQ(messages.fatal_number, 13);
   EXPECT_EQ(Read("F9QZX.log"), "\r\n" + line + "\r\n" + kMarker + "\r\n");
 
-  // In the other two it has none anywhere, also behind the place of the block.
+  // In the other two it has none anywhere, also after the place of the block.
   for (const bool behind : {false, true}) {
     Start(behind ? Lines{line, ""} : Lines{"", line});
     Edi_Lines({Edi("030511", "0000", "N")});

@@ -112,7 +112,7 @@ TEST_F(PrefixTallyTest, AddedPrefixGoesToTheEnd) {
   EXPECT_EQ(disk.Changes(), Lines{"append F6ABC_Prefixe.txt"});
   EXPECT_EQ(Read(kFile), before + "dl     00000000000000000  Allemagne\r\n");
 
-  // Behind a line that an editor has left open.
+  // After a line that an editor has left open.
   Write(kFile, "F      00100000000000000  France");
   window.Show();
   add("QWERTY", "X");

@@ -81,7 +81,7 @@ TEST_F(Rebuild, WhatIsDoneMeanwhileStands) {
   Start();
   LineByLine judge(LineByLine::Kind::Department, Read("FXXXX_Departement.txt"), "1.8 Mhz");
 
-  // Behind every seventh line a department is entered in the main window, and the tally is looked at.
+  // After every seventh line a department is entered in the main window, and the tally is looked at.
   int line = 0;
   std::string seen;
   windows.OnServe = [&] {

@@ -220,7 +220,7 @@ TEST(DevicesTest, PortsThatFail) {
   port.Open(1, cable.device, "4800,n,8,1");
   QElapsedTimer time;
   time.start();
-  // The system moves some of it on behind the first writes.
+  // The system moves some of it on after the first writes.
   for (int round = 0; round < 3; ++round) {
     EXPECT_EQ(ErrorOf([&] {
                 for (int i = 0; i < 1000; ++i) port.Write(std::string(500, 'x'));
@@ -255,7 +255,7 @@ TEST(DevicesTest, SoundsDoNotHoldUp) {
   folder.Write("empty.wav", "");
   folder.Write("cut.wav", bytes.substr(0, 30));
   folder.Write("text.wav", std::string(5000, 'x'));
-  // A size that leads far behind the end.
+  // A size that leads far past the end.
   folder.Write("size.wav", bytes.substr(0, 16) + "\xFF\xFF\xFF\xFF" + bytes.substr(20));
   QElapsedTimer time;
   for (const char* name : {"none.wav", "empty.wav", "cut.wav", "text.wav", "size.wav"}) {

@@ -34,7 +34,7 @@ class StationRun {
 
   /// Types the callsign, without its Enter.
   void TypeCallsign(const std::string& callsign);
-  /// The Enter behind the callsign: what the log, the prefixes and the directory know of it.
+  /// The Enter after the callsign: what the log, the prefixes and the directory know of it.
   void LookUp();
   /// Drops what has been typed.
   void Cancel();

@@ -7,7 +7,7 @@
 namespace vorelio::doubles {
 
 /// The settings as the choice of a new station in the first run leaves them. `call` is in its "_" form. A second
-/// station is listed behind the first, and becomes the current one.
+/// station is listed after the first, and becomes the current one.
 void SeedStationSettings(SettingsStore& settings, const std::string& directory, char separator, const std::string& call,
                          const std::string& locator);
 

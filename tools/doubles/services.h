@@ -77,7 +77,7 @@ class RecordedMessages : public MessageService, public BoxRecord {
   std::vector<std::string> TakeMessages() { return Take(Box::Kind::Message); }
   std::vector<std::string> TakeQuestions() { return Take(Box::Kind::Question); }
 
-  /// Runs while a box waits for the user, behind the recording.
+  /// Runs while a box waits for the user, after the recording.
   std::function<void(const Box&)> OnBox;
 
  private:

@@ -12,7 +12,7 @@ namespace vorelio::pilot {
 /// Carries a command out; raises `Failure`.
 void Perform(Run& run, const Command& command);
 
-/// The words behind a command's name, taken from left to right; a missing one or one too many is a `Failure`.
+/// The words after a command's name, taken from left to right; a missing one or one too many is a `Failure`.
 class Args {
  public:
   Args(const Run& run, const Command& command);
@@ -51,7 +51,7 @@ CommandFunction FindActing(std::string_view name);
 CommandFunction FindExpecting(std::string_view name);
 CommandFunction FindDeviceCommand(std::string_view name);
 
-/// What is expected of printer, transceiver, web, sounds and clipboard, by the word behind "expect".
+/// What is expected of printer, transceiver, web, sounds and clipboard, by the word after "expect".
 CommandFunction FindDeviceExpectation(std::string_view subject);
 
 template <std::size_t N>

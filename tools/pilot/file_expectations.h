@@ -2,7 +2,7 @@
 
 #include "pilot/commands.h"
 
-/// What a scenario expects of a file of the program directory; the words behind "expect file" and "show file".
+/// What a scenario expects of a file of the program directory; the words after "expect file" and "show file".
 namespace vorelio::pilot {
 
 void ExpectFile(Run& run, Args& args);

@@ -18,7 +18,7 @@ struct Score {
 bool RunText(const std::string& name, const std::string& text, const WayMaker& make_way, const Starter& starter,
              std::ostream& out);
 
-/// Runs scenario files and prints the score behind their failures.
+/// Runs scenario files and prints the score after their failures.
 Score RunFiles(const std::vector<std::string>& files, const WayMaker& make_way, const Starter& starter,
                std::ostream& out);
 

@@ -16,7 +16,7 @@ std::string_view NextLine(std::string_view& rest) {
   return line;
 }
 
-/// Reads what stands between double quotes; `place` is behind the first one, and ends behind the second.
+/// Reads what stands between double quotes; `place` is past the first one, and ends past the second.
 std::string Quoted(std::string_view line, std::size_t& place) {
   std::string text;
   while (place < line.size()) {

@@ -30,7 +30,7 @@ struct ParseError {
 };
 
 /// Splits a line into words: bare ones end at a blank, a part in double quotes may hold blanks and escapes (the quote,
-/// the back-slash, r and n behind a back-slash). Raises `ParseError` with line 0.
+/// the back-slash, r and n after a back-slash). Raises `ParseError` with line 0.
 std::vector<Word> SplitWords(std::string_view line);
 
 /// Reads a whole scenario; raises `ParseError`.

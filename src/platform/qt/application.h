@@ -21,7 +21,7 @@
 
 namespace vorelio {
 
-/// Names, icon and language of the QApplication. To be called once, behind its making.
+/// Names, icon and language of the QApplication. To be called once, after its making.
 void SetUpApplication();
 
 /// The user's folder for settings, XDG_CONFIG_HOME/Vorelio, and for data, XDG_DATA_HOME.

@@ -62,7 +62,7 @@ class QtWindows : public QObject, public WindowService, private Gate {
   /// When set, waits in place of the event loop, until `done()` is true.
   std::function<void(const std::function<bool()>& done)> Waiter;
 
-  /// Serves events until `done()`, which is asked behind each of them.
+  /// Serves events until `done()`, which is asked after each of them.
   void WaitUntil(const std::function<bool()>& done);
 
   /// Adds to a new window what is no matter of the logic; true if it has given it a place on the screen.

@@ -140,7 +140,7 @@ bool TextFieldView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease: {
       const bool click = control_.Click && event->type() == QEvent::MouseButtonRelease &&
                          static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-      // Behind what the widget makes of the event.
+      // After what the widget makes of the event.
       const auto tell = [this, click] {
         TellCaret();
         if (click && Bound()) Deliver([this] { control_.UserClick(); });
