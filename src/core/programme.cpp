@@ -33,29 +33,34 @@ std::string Programme::Chemin_Log(std::string_view station) const { return Chemi
 
 // A box or a dialog waits for the user, and while it waits the program can be ended.
 void Programme::Message(const std::string& texte) const {
+  Cede_La_Main();
   plateforme.messages.Show(texte);
   Quitte_Si_Termine();
 }
 
 bool Programme::Question(const std::string& texte) const {
+  Cede_La_Main();
   const bool oui = plateforme.messages.Ask(texte, Buttons::YesNo, Icon::Question);
   Quitte_Si_Termine();
   return oui;
 }
 
 bool Programme::Avertissement(const std::string& texte) const {
+  Cede_La_Main();
   const bool oui = plateforme.messages.Ask(texte, Buttons::OkCancel, Icon::Critical);
   Quitte_Si_Termine();
   return oui;
 }
 
 std::string Programme::Choisit_Fichier(const std::string& filtre) const {
+  Cede_La_Main();
   std::string fichier = plateforme.dialogs.Open(Chemin_Programme(), filtre);
   Quitte_Si_Termine();
   return fichier;
 }
 
 std::string Programme::Choisit_Nom(const std::string& propose, const std::string& filtre) const {
+  Cede_La_Main();
   std::string fichier = plateforme.dialogs.Save(Chemin_Programme(), propose, filtre);
   Quitte_Si_Termine();
   return fichier;
@@ -131,7 +136,10 @@ void Programme::Recoit(const std::function<void()>& action) {
   if (termine_) return;
   ++profondeur_;
   try {
-    Evenement(action);
+    Evenement([&] {
+      Cede_La_Main();
+      action();
+    });
   } catch (const Fin_Programme&) {
     // The program has ended; whoever runs the events looks at Termine_Deja().
   }
@@ -155,7 +163,15 @@ void Programme::Traite_Evenements() {
   Quitte_Si_Termine();
 }
 
+void Programme::Cede_La_Main() const {
+  for (Tenue* tenue : tenues_) {
+    tenue->Depose();
+    tenue->interrompue_ = true;
+  }
+}
+
 void Programme::Attend_La_Fin() {
+  Cede_La_Main();
   for (;;) {
     Quitte_Si_Termine();
     plateforme.windows.WaitForEvent();
@@ -171,6 +187,11 @@ void Programme::Fin_Sur_Erreur(int numero, const std::string& texte) {
   // No event may reach the logic any more while the box waits.
   termine_ = true;
   erreur_fatale_ = numero;
+  try {
+    Cede_La_Main();
+  } catch (const Erreur_Execution&) {
+    // The first error is the one to tell.
+  }
   plateforme.messages.Fatal(numero, texte);
   Termine();
 }

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/entry_state.h"
-#include "core/held_disk.h"
+#include "core/held_work.h"
 #include "core/settings.h"
 #include "core/station_context.h"
 #include "platform/controls.h"
@@ -33,7 +33,7 @@ class Programme {
 
   // --- Files ---
 
-  Disque_Tenu& Disque() const { return disque_; }
+  Disk& Disque() const { return *disque_; }
   /// The program's directory, `Chemin_Programme`.
   const std::string& Chemin_Programme() const { return plateforme.directory; }
   /// Directory, separator, file name.
@@ -121,6 +121,8 @@ class Programme {
  private:
   friend class Form;
   friend class Control;
+  friend class Disque_Groupe;
+  friend class Tenue;
 
   void Charge(std::unique_ptr<Form> forme);
   void Decharge(Form& forme);
@@ -128,8 +130,11 @@ class Programme {
   void Prend_Focus(Control& controle);
   void Note_Focus(Control& controle);
   void Fin_Sur_Erreur(int numero, const std::string& texte);
+  /// Before anybody else gets a turn: what long procedures hold in memory goes to the disk.
+  void Cede_La_Main() const;
 
-  mutable Disque_Tenu disque_{plateforme.disk};
+  Disk* disque_ = &plateforme.disk;
+  std::vector<Tenue*> tenues_;
   std::vector<std::unique_ptr<Form>> formes_;
   std::vector<std::unique_ptr<Form>> quittees_;
   Control* focus_ = nullptr;
