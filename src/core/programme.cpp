@@ -21,13 +21,33 @@ std::string Programme::Chemin(std::string_view fichier) const {
   return std::string(Chemin_Programme()).append(1, plateforme.separator).append(fichier);
 }
 
-std::string Programme::Chemin_Station(std::string_view suite) const {
-  return Chemin(contexte.Station_Indicatif).append(suite);
+std::string Programme::Chemin_De(std::string_view indicatif, std::string_view suite) const {
+  return Chemin(Forme_Fichier(indicatif)).append(suite);
 }
 
-std::string Programme::Chemin_Modele(std::string_view suite) const { return Chemin(kStation_Modele).append(suite); }
+std::string Programme::Chemin_Station(std::string_view suite) const {
+  return Chemin_De(contexte.Station_Indicatif, suite);
+}
 
-std::string Programme::Chemin_Log(std::string_view station) const { return Chemin(station) + ".log"; }
+std::string Programme::Chemin_Modele(std::string_view suite) const { return Chemin_De(kStation_Modele, suite); }
+
+std::string Programme::Chemin_Log(std::string_view station) const {
+  const auto place = logs_.find(station);
+  return place == logs_.end() ? Cherche_Log(station) : place->second;
+}
+
+std::string Programme::Cherche_Log(std::string_view station) const {
+  for (const char* fin : {".log", ".Log", ".LOG", ".lOg", ".loG", ".LOg", ".LoG", ".lOG"}) {
+    const std::string chemin = Chemin_De(station, fin);
+    if (Disque().Exists(chemin)) return logs_[std::string(station)] = chemin;
+  }
+  logs_.erase(std::string(station));
+  return Chemin_De(station, ".log");
+}
+
+std::string Programme::Nouveau_Log(std::string_view station) const {
+  return logs_[std::string(station)] = Chemin_De(station, ".log");
+}
 
 // --- Boxes ----------------------------------------------------------------------------------------------------------
 

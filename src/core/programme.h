@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -38,12 +39,20 @@ class Programme {
   const std::string& Chemin_Programme() const { return plateforme.directory; }
   /// Directory, separator, file name.
   std::string Chemin(std::string_view fichier) const;
-  /// The file of the current station: its callsign and `suite`, for instance "_Departement.txt".
+  /// The file that a callsign gives its name to: the callsign in its file form and `suite`, for instance
+  /// "_Departement.txt". Whatever has been typed for the callsign, the file lies in the program's directory.
+  std::string Chemin_De(std::string_view indicatif, std::string_view suite) const;
+  /// The same of the current station.
   std::string Chemin_Station(std::string_view suite) const;
   /// The same of the template station.
   std::string Chemin_Modele(std::string_view suite) const;
-  /// The log of a station. It is one file, whatever the case of its ending.
+  /// The log of a station: one file, whatever the case of its ending. ".log" goes before the others, and is the ending
+  /// of a log that is still to be made. What has been found is remembered.
   std::string Chemin_Log(std::string_view station) const;
+  /// The same of a log that may have come or gone since.
+  std::string Cherche_Log(std::string_view station) const;
+  /// The same of a station that is being made.
+  std::string Nouveau_Log(std::string_view station) const;
 
   // --- Boxes ---
 
@@ -133,6 +142,7 @@ class Programme {
   /// Before anybody else gets a turn: what long procedures hold in memory goes to the disk.
   void Cede_La_Main() const;
 
+  mutable std::map<std::string, std::string, std::less<>> logs_;  ///< Paths by station.
   Disk* disque_ = &plateforme.disk;
   std::vector<Tenue*> tenues_;
   std::vector<std::unique_ptr<Form>> formes_;

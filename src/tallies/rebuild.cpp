@@ -175,7 +175,7 @@ void Refait_Prefixes(Programme& programme) {
   // Named after the callsign typed last, not after the station: what was just emptied isn't what gets written, and
   // users have looked for the list under that name.
   const std::string log = Commence(programme, kSuite_Prefixe);
-  Liste_Absents absents(programme, programme.Chemin(programme.saisie.Indicatif_Saisi + kSuite_Absent));
+  Liste_Absents absents(programme, programme.Chemin_De(programme.saisie.Indicatif_Saisi, kSuite_Absent));
   absents.Pendant([&] {
     Parcourt(programme, log, kSuite_Prefixe, Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
       Reconstruit_Prefixe(pointage, absents, Lit_Log(ligne, champs::Indicatif_A),
