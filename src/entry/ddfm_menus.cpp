@@ -121,7 +121,8 @@ void DDFM::Mnu_RAZ_All_Click() {
   if (!programme_.Avertissement("!!! ATTENTION !!! tout les fichiers " + contexte.Station_Indicatif +
                                 " vont etre effacé , Continuer ?"_t))
     return;
-  for (const char* suite : {".log", kSuite_Departement, kSuite_Prefixe, kSuite_Locator})
+  programme_.Disque().Copy(programme_.Chemin_Modele(".log"), programme_.Chemin_Log(contexte.Station_Indicatif));
+  for (const char* suite : {kSuite_Departement, kSuite_Prefixe, kSuite_Locator})
     programme_.Disque().Copy(programme_.Chemin_Modele(suite), programme_.Chemin_Station(suite));
   Bande_A.SetEnabled(true);
   Bande_A.SetFocus();

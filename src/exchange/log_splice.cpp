@@ -99,22 +99,22 @@ bool Import_Log::Choisit_Fichier() {
 
 void Import_Log::Insere(const Premier_Moment& premier, const std::vector<std::string_view>& enregistrements,
                         const std::function<Ligne_Importee(std::string_view enregistrement)>& convertit) {
-  Disque_Tenu& disque = programme_.Disque();
+  Disk& disque = programme_.Disque();
   const std::string travail = programme_.Chemin(genre_.temporaire);
   std::string log = disque.ReadAll(log_);
   std::string debut, bloc;
-  Disque_Tenu::Tenue tenue(disque, [&](Disk& disk) { disk.WriteAll(travail, debut + bloc); });
+  Tenue tenue(programme_, [&] { disque.WriteAll(travail, debut + bloc); });
   tenue.Modifie();
-
-  const Moment moment = Moment_Complet(premier.date, premier.heure);
-  std::optional<Copie_Log> copie(std::in_place, log, genre_);
-  if (copie->Copie_Avant(moment, debut)) {
+  tenue.Pendant([&] {
+    const Moment moment = Moment_Complet(premier.date, premier.heure);
+    std::optional<Copie_Log> copie(std::in_place, log, genre_);
+    if (!copie->Copie_Avant(moment, debut)) return;
     for (const std::string_view enregistrement : enregistrements) {
       Prend(convertit(enregistrement), bloc);
       tenue.Modifie();
       programme_.Traite_Evenements();
     }
-    if (tenue.Disque_Touche()) {
+    if (tenue.Interrompue()) {
       // A contact may have come into the log meanwhile. The marker too may be gone: then the end is the place.
       log = disque.ReadAll(log_);
       debut.clear();
@@ -125,10 +125,8 @@ void Import_Log::Insere(const Premier_Moment& premier, const std::vector<std::st
     bloc.clear();
     tenue.Modifie();
     copie->Copie_Reste(debut);
-  }
+  });
   lues_ = enregistrements.size();
-  tenue.Modifie();
-  tenue.Depose();
 
   disque.Delete(log_);
   Remplace_Log(debut);
