@@ -2,6 +2,7 @@
 
 #include "core/errors.h"
 #include "core/programme.h"
+#include "core/text.h"
 
 namespace vorelio {
 
@@ -61,6 +62,11 @@ void Disque_Groupe::WriteAll(const std::string& path, std::string_view data) { m
 
 void Disque_Groupe::Append(const std::string& path, std::string_view data) {
   memoire_[path] = (Exists(path) ? ReadAll(path) : std::string{}).append(data);
+}
+
+// No log passes through a group.
+void Disque_Groupe::AppendLine(const std::string& path, std::string_view line) {
+  Append(path, std::string(line).append(kFin_De_Ligne));
 }
 
 void Disque_Groupe::Copy(const std::string& from, const std::string& to) { memoire_[to] = ReadAll(from); }

@@ -29,10 +29,13 @@ class Disque_Groupe : public Disk {
   std::string ReadAll(const std::string& path) override;
   void WriteAll(const std::string& path, std::string_view data) override;
   void Append(const std::string& path, std::string_view data) override;
+  void AppendLine(const std::string& path, std::string_view line) override;
   void Copy(const std::string& from, const std::string& to) override;
   void Delete(const std::string& path) override;
   bool Exists(const std::string& path) override;
   std::uint64_t Size(const std::string& path) override;
+  /// Of the file on the disk: no log is changed in a group.
+  std::optional<FileStamp> Stamp(const std::string& path) override { return disk_.Stamp(path); }
 
  private:
   /// What a file holds; nothing if there is none.

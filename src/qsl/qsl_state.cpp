@@ -2,6 +2,7 @@
 
 #include "core/bands.h"
 #include "core/clock_text.h"
+#include "core/log_guard.h"
 #include "core/log_line.h"
 #include "core/main_window.h"
 #include "core/text.h"
@@ -92,7 +93,7 @@ void Lignes_Remplacees::Applique(Programme& programme) {
     const auto place = a_faire.find(lue);
     return place == a_faire.end() ? lue : place->second;
   });
-  Prend_Temporaire(programme.Disque(), log, temporaire);
+  Prend_Log(programme, log, temporaire);
   // A change of the list that comes before it is read anew rewrites the log from it.
   auto& liste = programme.Principale().Journal();
   for (int i = 0; i < liste.Count(); ++i) {
