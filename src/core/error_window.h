@@ -14,6 +14,8 @@ class Gestion_Erreur : public Form {
  public:
   explicit Gestion_Erreur(Programme& programme);
 
+  /// It opens wherever a tally is missed, and its buttons are the only way on.
+  bool AboveModal() const override { return true; }
   void Form_Load() override;
   void Form_Unload() override;
 

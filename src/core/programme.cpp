@@ -58,16 +58,16 @@ void Programme::Message(const std::string& texte) const {
   Quitte_Si_Termine();
 }
 
-bool Programme::Question(const std::string& texte) const {
+bool Programme::Question(const std::string& texte, Guard garde) const {
   Cede_La_Main();
-  const bool oui = plateforme.messages.Ask(texte, Buttons::YesNo, Icon::Question);
+  const bool oui = plateforme.messages.Ask(texte, Buttons::YesNo, Icon::Question, garde);
   Quitte_Si_Termine();
   return oui;
 }
 
 bool Programme::Avertissement(const std::string& texte) const {
   Cede_La_Main();
-  const bool oui = plateforme.messages.Ask(texte, Buttons::OkCancel, Icon::Critical);
+  const bool oui = plateforme.messages.Ask(texte, Buttons::OkCancel, Icon::Critical, Guard::None);
   Quitte_Si_Termine();
   return oui;
 }

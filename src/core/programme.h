@@ -58,7 +58,7 @@ class Programme {
 
   void Message(const std::string& texte) const;
   /// Yes or No.
-  bool Question(const std::string& texte) const;
+  bool Question(const std::string& texte, Guard garde = Guard::None) const;
   /// OK or Cancel, with the critical sign.
   bool Avertissement(const std::string& texte) const;
   /// Path of a file to read, from the dialog that starts in the program's directory; empty if it was cancelled.

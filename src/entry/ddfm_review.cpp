@@ -81,6 +81,7 @@ void DDFM::Editer_Click() {
   Enregistrer.SetCaption("Valider");
   EnableAll({&Recherche, &Gestion_QSL, &Effacer, &Editer}, false);
   Annonce_Numero(saisie.Numero_Selection);
+  Indicatif_A.SetFocus();
 }
 
 void DDFM::Vide_Saisie() {
@@ -106,7 +107,7 @@ void DDFM::Attend_Indicatif() {
 void DDFM::Effacer_Click() {
   if (Rien_De_Choisi()) return;
   const std::string indicatif(Lit_Liste(Liste_QSO.Text(), champs::Indicatif_A));
-  if (!programme_.Question("Effacer le QSO avec la station " + indicatif + " ?")) return;
+  if (!programme_.Question("Effacer le QSO avec la station " + indicatif + " ?", Guard::NoFirst)) return;
   Efface_Ligne_Log(programme_);
 
   Vide_Saisie();

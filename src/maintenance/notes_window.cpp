@@ -28,7 +28,7 @@ Notes::Notes(Programme& programme) : Form(programme, "Notes", "Bloc notes") {
 void Notes::Form_Load() { Centre(); }
 
 void Notes::Form_Unload() {
-  if (programme_.Question("Voulez vous sauvegarder ces notes ?")) Enregistre();
+  if (programme_.Question("Voulez vous sauvegarder ces notes ?", Guard::MustChoose)) Enregistre();
 }
 
 bool Notes::Copie_Selection() {

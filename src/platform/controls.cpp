@@ -41,7 +41,8 @@ void Control::UserFocus() { form_.programme().Note_Focus(*this); }
 
 bool Control::Reachable() const {
   const Form* modal = form_.programme().Fenetre_Modale();
-  return enabled_ && visible_ && form_.Visible() && !form_.Unloaded() && (!modal || modal == &form_);
+  const bool locked = modal && modal != &form_ && !form_.AboveModal();
+  return enabled_ && visible_ && form_.Visible() && !form_.Unloaded() && !locked;
 }
 
 const std::string& Control::Words() const {
@@ -255,15 +256,21 @@ void ComboBox::TakeIndex(int index) {
   ListControl::TakeIndex(index);
 }
 
-void ComboBox::SetText(std::string_view text) {
-  const auto row = kind_ == Kind::Choice ? std::find(Items().begin(), Items().end(), text) : Items().end();
-  TakeIndex(row == Items().end() ? -1 : static_cast<int>(row - Items().begin()));
+void ComboBox::SetText(std::string_view text) { Put(text, true); }
+
+void ComboBox::Put(std::string_view text, bool replace) {
+  const auto row = std::find(Items().begin(), Items().end(), text);
   text_ = text;
+  replace_ = replace;
+  ListControl::TakeIndex(row == Items().end() ? -1 : static_cast<int>(row - Items().begin()));
   Notify(Property::Text);
 }
 
+void ComboBox::UserEnter() { replace_ = true; }
+
 void ComboBox::UserKey(int key) {
   if (!Reachable()) return;
+  if (Parent().programme().Focus() != this) UserEnter();
   SetFocus();
   if (!RaiseKey(KeyPress, key) || key < ' ') return;
   if (kind_ == Kind::Editable) {
@@ -277,8 +284,7 @@ void ComboBox::UserKey(int key) {
 
 void ComboBox::UserText(std::string_view text) {
   if (!Reachable()) return;
-  SetText(text);
-  replace_ = false;
+  Put(text, false);
 }
 
 // --- Controls with a caption ----------------------------------------------------------------------------------------
@@ -417,7 +423,7 @@ void Form::Unload() {
 void Form::UserClose() {
   const Form* modal = programme_.Fenetre_Modale();
   // The main window can always be closed: the program then ends, whatever other window is open.
-  if (unloaded_ || !visible_ || (modal && modal != this && !Main())) return;
+  if (unloaded_ || !visible_ || (modal && modal != this && !Main() && !AboveModal())) return;
   Unload();
 }
 

@@ -246,7 +246,9 @@ class ComboBox : public ListControl {
   void ClearItems() override;
 
   const std::string& Text() const { return text_; }
-  /// Fires nothing. In a choice box the row of that text is then the selected one; else none is.
+  /// Whether the user's next character takes the place of the text: it was chosen or set, not typed.
+  bool ReplacedByKey() const { return replace_; }
+  /// Fires nothing. The row of that text, letter for letter, is then the selected one; else none is.
   void SetText(std::string_view text);
   const std::string& Words() const override { return text_; }
 
@@ -256,12 +258,16 @@ class ComboBox : public ListControl {
   /// selects the next row that begins with what has been typed since `UserKeysBegin`.
   void UserKey(int key);
   void UserKeysBegin() { typed_.clear(); }
+  /// The user has come in with the keys: the whole text stands selected.
+  void UserEnter();
   void UserText(std::string_view text);
 
  protected:
   void TakeIndex(int index) override;
 
  private:
+  void Put(std::string_view text, bool replace);
+
   Kind kind_;
   std::string text_;
   std::string typed_;
@@ -468,6 +474,8 @@ class Form {
 
   /// Whether the program ends with this window.
   virtual bool Main() const { return false; }
+  /// Whether the window stands above modal ones, and can be used under them.
+  virtual bool AboveModal() const { return false; }
 
   const std::vector<Control*>& Controls() const { return controls_; }
   /// The control of that name, or null.

@@ -27,6 +27,12 @@ class SettingsStore {
 };
 
 enum class Buttons { YesNo, OkCancel };
+/// What keeps a hand that is too quick from losing something with a Yes or No question.
+enum class Guard {
+  None,
+  NoFirst,    ///< Enter alone says No: Yes takes something away.
+  MustChoose  ///< Escape says nothing: No throws something away.
+};
 enum class Icon { Plain, Question, Critical };
 
 /// Modal boxes; each waits for the user.
@@ -34,8 +40,8 @@ class MessageService {
  public:
   virtual ~MessageService() = default;
   virtual void Show(const std::string& text) = 0;
-  /// True for Yes or OK. Closing the box is the other answer.
-  virtual bool Ask(const std::string& text, Buttons buttons, Icon icon) = 0;
+  /// True for Yes or OK. Closing the box is the other answer, but where that would lose something.
+  virtual bool Ask(const std::string& text, Buttons buttons, Icon icon, Guard guard) = 0;
   /// The box of a run-time error that ends the program.
   virtual void Fatal(int number, const std::string& text) = 0;
 };

@@ -30,7 +30,7 @@ void Fichier_Nomenclature::Form_Load() {
 }
 
 void Fichier_Nomenclature::Form_Unload() {
-  if (programme_.Question("Sauvegarder fichier Nomenclature.txt avant de quitter?"))
+  if (programme_.Question("Sauvegarder fichier Nomenclature.txt avant de quitter?", Guard::MustChoose))
     Ecrit_Nomenclature(programme_, Liste_Nomenclature.Items());
 }
 

@@ -216,11 +216,11 @@ TEST(QtBoxes, QuestionsSpeakFrench) {
   QtWindows windows;
   SeenMessages messages(windows);
   messages.answer = QMessageBox::Yes;
-  EXPECT_TRUE(messages.Ask("?", Buttons::YesNo, Icon::Question));
+  EXPECT_TRUE(messages.Ask("?", Buttons::YesNo, Icon::Question, Guard::None));
   EXPECT_EQ(messages.words, (QStringList{QStringLiteral("Non"), QStringLiteral("Oui")}));
   EXPECT_EQ(messages.first, QMessageBox::Yes);
   messages.answer = QMessageBox::Cancel;
-  EXPECT_FALSE(messages.Ask("?", Buttons::OkCancel, Icon::Critical));
+  EXPECT_FALSE(messages.Ask("?", Buttons::OkCancel, Icon::Critical, Guard::None));
   EXPECT_EQ(messages.words, (QStringList{QStringLiteral("Annuler"), QStringLiteral("OK")}));
   EXPECT_EQ(messages.first, QMessageBox::Cancel);
   messages.Fatal(53, "Fichier introuvable");

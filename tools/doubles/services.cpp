@@ -74,7 +74,7 @@ void RecordedMessages::Show(const std::string& text) {
   if (OnBox) OnBox(Box(boxes.back()));
 }
 
-bool RecordedMessages::Ask(const std::string& text, Buttons buttons, Icon icon) {
+bool RecordedMessages::Ask(const std::string& text, Buttons buttons, Icon icon, Guard) {
   const bool answer = Question(text, buttons, icon);
   if (OnBox) OnBox(Box(boxes.back()));
   return answer;

@@ -70,7 +70,7 @@ class BoxRecord {
 class RecordedMessages : public MessageService, public BoxRecord {
  public:
   void Show(const std::string& text) override;
-  bool Ask(const std::string& text, Buttons buttons, Icon icon) override;
+  bool Ask(const std::string& text, Buttons buttons, Icon icon, Guard guard) override;
   void Fatal(int number, const std::string& text) override;
 
   /// What has been shown since the last call: messages alone, then questions alone. Each call forgets what it gives.

@@ -169,10 +169,44 @@ void Choose(Run& run, Args& args) {
   args.End();
 }
 
+KeyStroke StrokeOf(std::string word) {
+  KeyStroke stroke;
+  const std::pair<std::string_view, bool KeyStroke::*> held[] = {
+      {"Shift+", &KeyStroke::shift}, {"Ctrl+", &KeyStroke::ctrl}, {"Alt+", &KeyStroke::alt}};
+  for (bool found = true; found;) {
+    found = false;
+    for (const auto& [name, flag] : held) {
+      if (!word.starts_with(name) || word.size() == name.size()) continue;
+      stroke.*flag = found = true;
+      word.erase(0, name.size());
+    }
+  }
+  stroke.key = word;
+  return stroke;
+}
+
+void PressKey(Run& run, const std::string& word, int repeats) {
+  if (!run.way().OnScreen()) throw Failure{"keys are pressed on the screen alone: begin with \"only windows\""};
+  if (!run.way().Press(StrokeOf(word), repeats)) Differs("a key", word);
+  run.way().Settle();
+}
+
+void Press(Run& run, Args& args) {
+  do PressKey(run, args.Word("key"), 0);
+  while (args.More());
+}
+
+void Hold(Run& run, Args& args) {
+  const std::string word = args.Word("key");
+  const int repeats = args.Number("repeats");
+  args.End();
+  PressKey(run, word, repeats);
+}
+
 constexpr NamedCommand kActing[] = {{"type", Type},         {"enter", Enter}, {"paste", Paste},     {"caret", Caret},
                                     {"select", Select},     {"click", Click}, {"tick", Tick},       {"menu", Menu},
                                     {"dblclick", DblClick}, {"close", Close}, {"timer", FireTimer}, {"answer", Answer},
-                                    {"choose", Choose}};
+                                    {"choose", Choose},     {"press", Press}, {"hold", Hold}};
 
 }  // namespace
 

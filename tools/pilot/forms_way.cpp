@@ -10,7 +10,7 @@ class ScriptMessages : public MessageService {
  public:
   explicit ScriptMessages(Script& script) : script_(script) {}
   void Show(const std::string& text) override { script_.Message(text); }
-  bool Ask(const std::string& text, Buttons buttons, Icon icon) override {
+  bool Ask(const std::string& text, Buttons buttons, Icon icon, Guard) override {
     return script_.Question(text, buttons, icon);
   }
   void Fatal(int number, const std::string& text) override { script_.Fatal(number, text); }

@@ -118,6 +118,12 @@ void Qso(Run& run, Args& args) {
   }
 }
 
+void Only(Run& run, Args& args) {
+  if (!args.Take("windows")) Differs("only windows", "another word");
+  args.End();
+  run.OnlyOnScreen();
+}
+
 void Start(Run& run, Args& args) {
   args.End();
   run.Start();
@@ -125,7 +131,7 @@ void Start(Run& run, Args& args) {
 
 constexpr NamedCommand kPreparing[] = {{"station", Station}, {"setting", Setting}, {"clock", Clock},
                                        {"write", Write},     {"raw", Raw},         {"qso", Qso},
-                                       {"remove", Remove},   {"start", Start}};
+                                       {"remove", Remove},   {"start", Start},     {"only", Only}};
 
 }  // namespace
 

@@ -95,6 +95,11 @@ Control& Run::FindControl(const std::string& name) const {
 
 void Run::Note(const std::string& text) { notes_.push_back(Place(line_) + "note: " + text); }
 
+void Run::OnlyOnScreen() {
+  keys_ = true;
+  if (!way_->OnScreen()) next_ = scenario_.commands.size();
+}
+
 void Run::Print(const std::string& text) { out_ << Place(line_) << text << std::endl; }
 
 // --- What waits for the user ----------------------------------------------------------------------------------------
@@ -117,7 +122,7 @@ void Run::Message(const std::string& text) {
 bool Run::Question(const std::string& text, Buttons buttons, Icon icon) {
   const bool answer = boxes_.Question(text, buttons, icon);
   boxes_.boxes.back().line = line_;
-  if (boxes_.boxes.back().answered) return answer;
+  if (boxes_.boxes.back().answered || keys_) return answer;
   Fail(line_, "expected an answer queued for the question " + Shown(text) + ", found none");
   throw Fin_Programme{};
 }

@@ -64,6 +64,8 @@ class Run : private Script {
 
   /// Something that isn't wrong by itself, but may be why a later expectation doesn't hold.
   void Note(const std::string& text);
+  /// This scenario is about real windows: passed over where there are none.
+  void OnlyOnScreen();
   /// A line for the reader, with no judgement.
   void Print(const std::string& text);
 
@@ -73,6 +75,7 @@ class Run : private Script {
   void GoOnOnce() override;
   void Message(const std::string& text) override;
   bool Question(const std::string& text, Buttons buttons, Icon icon) override;
+  bool KeysAnswer() const override { return keys_ && boxes_.answers.empty(); }
   void Fatal(int number, const std::string& text) override;
   std::string Choice() override;
   void Fail(const std::string& text) override { Fail(line_, text); }
@@ -92,6 +95,7 @@ class Run : private Script {
   std::size_t next_ = 0;
   int line_ = 0;
   bool failed_ = false;
+  bool keys_ = false;  ///< Keys may answer boxes: the scenario is about real windows.
   std::vector<std::string> notes_;
 
   doubles::ScratchFolder folder_;

@@ -27,6 +27,8 @@ class Script {
   virtual void Message(const std::string& text) = 0;
   /// A question without an answer is a failure, and leaves the run by `Fin_Programme`.
   virtual bool Question(const std::string& text, Buttons buttons, Icon icon) = 0;
+  /// Whether the commands that follow are to answer the question on the screen, with keys: none is queued for it.
+  virtual bool KeysAnswer() const { return false; }
   virtual void Fatal(int number, const std::string& text) = 0;
   /// Path of the next file dialog, empty for a dialog that is cancelled.
   virtual std::string Choice() = 0;
@@ -36,6 +38,12 @@ class Script {
 
   /// A scratch folder beside the program's directory, for what a way keeps.
   virtual const std::string& ScratchFolder() const = 0;
+};
+
+/// A key of the keyboard, with what is held down beside it.
+struct KeyStroke {
+  std::string key;  ///< A character in UTF-8, or a name: "Return", "F5", ...
+  bool shift = false, ctrl = false, alt = false;
 };
 
 /// Whether a control is there to be clicked on: a button, a check box, an option.
@@ -64,6 +72,12 @@ class Way {
   virtual void Tick(ListBox& list, int row) = 0;
   virtual void Choose(MenuItem& entry) = 0;
   virtual void Close(Form& form) = 0;
+
+  /// Whether there are real windows.
+  virtual bool OnScreen() const { return false; }
+  /// The key goes down, repeats `repeats` times by itself, and goes up, for whatever has the focus on the screen. False
+  /// for a key that no keyboard has.
+  virtual bool Press(const KeyStroke&, int /*repeats*/) { return false; }
 
   /// Lets everything happen that the last command has brought about.
   virtual void Settle() {}

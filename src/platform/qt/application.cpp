@@ -8,6 +8,8 @@
 #include <QStandardPaths>
 #include <QTranslator>
 
+#include "platform/qt/one_press.h"
+
 namespace vorelio {
 
 void SetUpApplication() {
@@ -16,6 +18,7 @@ void SetUpApplication() {
   QApplication::setApplicationVersion(QStringLiteral(VORELIO_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("vorelio"));
   QApplication::setQuitOnLastWindowClosed(false);
+  qApp->installEventFilter(new OnePress(qApp));
   UseResources();
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256})

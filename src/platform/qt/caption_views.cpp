@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRadioButton>
 
 #include "platform/qt/qt_text.h"
 
@@ -86,7 +87,7 @@ void FrameView::Show(Property property) {
 
 ClickView::ClickView(Captioned& control, QAbstractButton& button, Gate& gate)
     : WidgetView(control, button, gate), captioned_(control), button_(button), designed_(button.text()) {
-  button_.setText(CaptionToShow(designed_, control.Caption()));
+  ShowCaption();
   connect(&button, &QAbstractButton::clicked, this, [this] { TakeClick(); });
 }
 
@@ -97,8 +98,30 @@ void ClickView::TakeClick() {
   if (Bound()) Show(Property::Checked);
 }
 
+/// A button that has two captions in turn has the other one, with its own key, in its property "autre_texte".
+void ClickView::ShowCaption() {
+  const QString other = button_.property("autre_texte").toString();
+  const bool is_other = !other.isEmpty() && WithoutMnemonic(other) == ToQt(captioned_.Caption());
+  button_.setText(CaptionToShow(is_other ? other : designed_, captioned_.Caption()));
+}
+
+/// The arrow keys go from option to option. Left to itself the widget would take the focus back after the click, from
+/// wherever the click has sent it.
+bool ClickView::GoToNeighbour(int key) {
+  const bool back = key == Qt::Key_Left || key == Qt::Key_Up;
+  if (!qobject_cast<QRadioButton*>(&button_) || (!back && key != Qt::Key_Right && key != Qt::Key_Down)) return false;
+  QList<QRadioButton*> options = button_.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+  options.removeIf([](const QRadioButton* option) { return !option->isEnabled() || !option->isVisible(); });
+  const auto here = options.indexOf(qobject_cast<QRadioButton*>(&button_));
+  if (here < 0 || options.size() < 2) return false;
+  QRadioButton* next = options[(here + (back ? options.size() - 1 : 1)) % options.size()];
+  next->setFocus(back ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+  next->click();
+  return true;
+}
+
 void ClickView::Show(Property property) {
-  if (property == Property::Caption) button_.setText(CaptionToShow(designed_, captioned_.Caption()));
+  if (property == Property::Caption) ShowCaption();
   if (property == Property::Checked && button_.isCheckable()) {
     // A button of a Qt group refuses to be cleared alone; the groups are the model's.
     const bool exclusive = button_.autoExclusive();
@@ -111,6 +134,7 @@ void ClickView::Show(Property property) {
 bool ClickView::eventFilter(QObject* watched, QEvent* event) {
   if (Bound() && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
+    if (GoToNeighbour(key)) return true;
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
       TakeClick();
       return true;

@@ -71,6 +71,8 @@ class ClickView : public WidgetView {
 
  private:
   void TakeClick();
+  void ShowCaption();
+  bool GoToNeighbour(int key);
 
   Captioned& captioned_;
   QAbstractButton& button_;

@@ -28,6 +28,9 @@ ComboView::ComboView(ComboBox& combo, QComboBox& box, Gate& gate) : ViewOf(combo
   // The box has the focus and hands its events to its field; the field's own are those of the mouse.
   if (QLineEdit* edit = box.lineEdit()) {
     edit->installEventFilter(this);
+    // The box would look for a row by itself when the field is left, and take it for a choice of the user's.
+    for (const auto left : {&QLineEdit::editingFinished, &QLineEdit::returnPressed})
+      disconnect(edit, left, &box, nullptr);
     connect(edit, &QLineEdit::textEdited, this, [this] { TakeEdit(); });
   }
   // Also the choice of the row that is selected already.
@@ -65,7 +68,7 @@ void ComboView::ShowText() {
   if (QLineEdit* edit = shown_.lineEdit()) {
     if (edit->text() != text) edit->setText(text);
     // The next character takes the place of a text that was chosen, and joins one that was typed.
-    if (control_.ListIndex() >= 0 && shown_.window()->focusWidget() == &shown_) edit->selectAll();
+    if (control_.ReplacedByKey() && shown_.window()->focusWidget() == &shown_) edit->selectAll();
   } else {
     shown_.setPlaceholderText(text);
   }
@@ -77,7 +80,7 @@ void ComboView::ShowColour() {
 }
 
 void ComboView::Focused() {
-  if (QLineEdit* edit = shown_.lineEdit(); edit && control_.ListIndex() >= 0) edit->selectAll();
+  if (QLineEdit* edit = shown_.lineEdit(); edit && control_.ReplacedByKey()) edit->selectAll();
 }
 
 void ComboView::TakeEdit() {
@@ -108,7 +111,7 @@ void ComboView::TakeKey(int key) {
   const QString now = ToQt(control_.Text());
   const bool inside = start + length < old.size() || (length > 0 && length < old.size());
   const bool joined = !now.isEmpty() && (now.size() == 1 || now == old + now.back());
-  if (!inside || !joined || control_.ListIndex() >= 0) return;
+  if (!inside || !joined) return;
   const QString placed = old.left(start) + now.back() + old.mid(start + length);
   Deliver([&] { control_.UserText(FromQt(placed)); });
   if (Bound()) edit->setCursorPosition(static_cast<int>(start) + 1);
@@ -144,7 +147,10 @@ bool ComboView::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::Wheel: event->ignore(); return true;
     case QEvent::FocusIn:
-      if (Bound()) control_.UserKeysBegin();
+      control_.UserKeysBegin();
+      if (const auto reason = static_cast<const QFocusEvent*>(event)->reason();
+          reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
+        control_.UserEnter();
       break;
     default: break;
   }

@@ -59,6 +59,8 @@ ListView::ListView(ListBox& list, RowsView& rows, Gate& gate)
   rows.OnBefore = [this] { Refresh(); };
   rows.OnSelect = [this](int row) { Tell([this, row] { control_.UserSelect(row); }); };
   rows.OnDouble = [this](int row) {
+    // Where a click acts by itself, the first of the two has.
+    if (!control_.DblClick && !control_.KeyPress) return;
     Tell([this, row] {
       control_.UserDblClick(row);
       // Where a double click means nothing of its own, it means what Enter means.

@@ -62,10 +62,12 @@ void MultiLineView::ShowText() {
 void MultiLineView::ShowCaret() {
   const QScopedValueRollback<bool> showing(showing_, true);
   QTextCursor cursor = shown_.textCursor();
-  cursor.setPosition(ToWidget(control_.Caret()));
-  cursor.setPosition(ToWidget(control_.Caret() + control_.SelectionLength()), QTextCursor::KeepAnchor);
-  if (cursor.position() != shown_.textCursor().position() || cursor.anchor() != shown_.textCursor().anchor())
-    shown_.setTextCursor(cursor);
+  const int start = ToWidget(control_.Caret()), end = ToWidget(control_.Caret() + control_.SelectionLength());
+  // Set anew a selection would run from left to right, whichever way the user draws it.
+  if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
+  cursor.setPosition(start);
+  cursor.setPosition(end, QTextCursor::KeepAnchor);
+  shown_.setTextCursor(cursor);
 }
 
 void MultiLineView::TellCaret() {

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QScreen>
@@ -35,6 +36,17 @@ void KeepLines(QMessageBox& box) {
   label->setMinimumWidth(std::min(widest + 8, box.screen()->availableSize().width() * 7 / 10));
 }
 
+/// Keeps a box open that Escape, or the cross of its frame, would close by itself.
+class StaysOpen : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override {
+    const bool escape = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    const bool cross = event->type() == QEvent::Close && event->spontaneous();
+    if (cross) event->ignore();
+    return escape || cross;
+  }
+};
+
 QMessageBox::Icon Sign(Icon icon) {
   switch (icon) {
     case Icon::Plain: return QMessageBox::Information;
@@ -58,6 +70,8 @@ int QtMessages::Run(const std::string& text, Icon icon, QMessageBox::StandardBut
   box.setStandardButtons(buttons);
   box.setDefaultButton(first);
   box.setEscapeButton(escape);
+  StaysOpen stays;
+  if (escape == QMessageBox::NoButton) box.installEventFilter(&stays);
   NameButtons(box);
   KeepLines(box);
   if (!only_button.isEmpty()) box.button(first)->setText(only_button);
@@ -73,9 +87,12 @@ void QtMessages::Show(const std::string& text) {
   Run(text, Icon::Plain, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-bool QtMessages::Ask(const std::string& text, Buttons buttons, Icon icon) {
-  if (buttons == Buttons::YesNo)
-    return Run(text, icon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No) == QMessageBox::Yes;
+bool QtMessages::Ask(const std::string& text, Buttons buttons, Icon icon, Guard guard) {
+  if (buttons == Buttons::YesNo) {
+    const auto first = guard == Guard::NoFirst ? QMessageBox::No : QMessageBox::Yes;
+    const auto escape = guard == Guard::MustChoose ? QMessageBox::NoButton : QMessageBox::No;
+    return Run(text, icon, QMessageBox::Yes | QMessageBox::No, first, escape) == QMessageBox::Yes;
+  }
   // What asks with OK and Cancel is about to overwrite something: Enter alone doesn't.
   return Run(text, icon, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel, QMessageBox::Cancel) ==
          QMessageBox::Ok;

@@ -15,7 +15,7 @@ class QtMessages : public MessageService {
   explicit QtMessages(QtWindows& windows) : windows_(windows) {}
 
   void Show(const std::string& text) override;
-  bool Ask(const std::string& text, Buttons buttons, Icon icon) override;
+  bool Ask(const std::string& text, Buttons buttons, Icon icon, Guard guard) override;
   void Fatal(int number, const std::string& text) override;
 
  protected:
@@ -23,6 +23,7 @@ class QtMessages : public MessageService {
   virtual int Execute(QMessageBox& box) { return box.exec(); }
 
  private:
+  /// Without an `escape`, NoButton, the box goes by its buttons alone.
   int Run(const std::string& text, Icon icon, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton first,
           QMessageBox::StandardButton escape, const QString& only_button = {});
 

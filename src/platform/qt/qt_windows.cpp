@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
@@ -43,6 +44,9 @@ QtWindows::QtWindows() {
   connect(&soon_, &QTimer::timeout, this, [this] {
     // In a running procedure its own pump decides what is due.
     if (!pumping_) ShowPending();
+  });
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
+    if (before && qobject_cast<QMenuBar*>(now)) before_menu_ = before;
   });
 }
 
@@ -164,7 +168,8 @@ void QtWindows::ShowWindow(Window& window) {
   QWidget* widget = window.widget;
   window.raise = false;
   const Form* locking = window.form->programme().Fenetre_Modale();
-  const bool locked = locking && locking != window.form;
+  const bool above = window.form->AboveModal();
+  const bool locked = locking && locking != window.form && !above;
   if (widget->isVisible()) {
     if (!locked) {
       widget->raise();
@@ -178,7 +183,9 @@ void QtWindows::ShowWindow(Window& window) {
     if (window.centre) PlaceInCentre(window);
     window.placed = true;
   }
-  widget->setWindowModality(window.form->Modal() ? Qt::ApplicationModal : Qt::NonModal);
+  // To the window system only a modal window stands above a modal one.
+  const bool modal = window.form->Modal() || (above && locking);
+  widget->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
   widget->show();
   if (window.form->Modal() && widget->windowHandle())
     for (const auto& other : windows_)
@@ -221,8 +228,17 @@ void QtWindows::Deliver(Programme& programme, const std::function<void()>& actio
   }
   if (--depth_ > 0) return;
   if (!deferred_.empty() || pending_since_) soon_.start();
+  LeaveMenuBar();
   if (focus_lost_) RestoreFocus(programme);
   if (programme.Termine_Deja()) QCoreApplication::exit();
+}
+
+/// The bar gives the keyboard back by itself, but not where an entry has opened a window: then the letters that follow
+/// that window would open menus.
+void QtWindows::LeaveMenuBar() {
+  if (!before_menu_ || QApplication::activePopupWidget()) return;
+  const auto* bar = qobject_cast<QMenuBar*>(before_menu_->window()->focusWidget());
+  if (bar && !bar->activeAction()) before_menu_->setFocus(Qt::MenuBarFocusReason);
 }
 
 void QtWindows::RestoreFocus(const Programme& programme) {

@@ -96,6 +96,7 @@ class QtWindows : public QObject, public WindowService, private Gate {
   void ShowWindow(Window& window);
   void PlaceInCentre(Window& window);
   void FocusFirst(Window& window);
+  void LeaveMenuBar();
   void RestoreFocus(const Programme& programme);
   void WindowsPending();
 
@@ -109,6 +110,7 @@ class QtWindows : public QObject, public WindowService, private Gate {
   unsigned delivered_ = 0;
   bool pumping_ = false;
   bool focus_lost_ = false;
+  QPointer<QWidget> before_menu_;  ///< What had the keyboard before the menu bar took it.
 };
 
 }  // namespace vorelio

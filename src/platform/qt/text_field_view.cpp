@@ -61,6 +61,10 @@ void TextFieldView::ShowText() {
 void TextFieldView::ShowCaret() {
   if (!HasFocus()) return;
   const QScopedValueRollback<bool> showing(showing_, true);
+  // Set anew it would run from left to right, whichever way the user draws it.
+  const bool stands = shown_.hasSelectedText() && shown_.selectionStart() == control_.Caret() &&
+                      shown_.selectionLength() == control_.SelectionLength();
+  if (stands) return;
   if (control_.SelectionLength() > 0)
     shown_.setSelection(control_.Caret(), control_.SelectionLength());
   else
@@ -95,15 +99,20 @@ void TextFieldView::TakeKey(int key) {
   TellCaret();
   const QScopedValueRollback<bool> typing(typing_, true);
   Deliver([&] { control_.UserKey(key); });
-  if (Bound() && key == kEntree) PressDefault();
+  if (Bound() && key == kEntree) GoOn();
 }
 
-/// In windows that are no chain of fields, Enter in the last one presses the button that its property "entree" names.
-void TextFieldView::PressDefault() {
-  const QString name = shown_.property("entree").toString();
+/// In windows that are no chain of fields, Enter goes on to the field, or presses the button, that the property
+/// "entree" names, or "entree_remplie" where an empty field has nothing to be pressed for.
+void TextFieldView::GoOn() {
+  QString name = shown_.property("entree").toString();
+  if (name.isEmpty() && !shown_.text().isEmpty()) name = shown_.property("entree_remplie").toString();
   if (name.isEmpty() || !HasFocus()) return;
-  auto* button = dynamic_cast<Button*>(control_.Parent().Find(name.toStdString()));
-  if (button) Deliver([&] { button->UserClick(); });
+  Control* next = control_.Parent().Find(name.toStdString());
+  if (auto* button = dynamic_cast<Button*>(next))
+    Deliver([&] { button->UserClick(); });
+  else if (next)
+    Deliver([&] { next->SetFocus(); });
 }
 
 bool TextFieldView::eventFilter(QObject* watched, QEvent* event) {

@@ -24,7 +24,7 @@ class TextFieldView final : public ViewOf<TextField, QLineEdit> {
   void TellCaret();
   void TakeEdit();
   void TakeKey(int key);
-  void PressDefault();
+  void GoOn();
   bool HasFocus() const;
 
   bool showing_ = false;

@@ -16,10 +16,13 @@ void PilotMessages::Show(const std::string& text) {
   QtMessages::Show(text);
 }
 
-bool PilotMessages::Ask(const std::string& text, Buttons buttons, Icon icon) {
+bool PilotMessages::Ask(const std::string& text, Buttons buttons, Icon icon, Guard guard) {
+  by_keys_ = script_.KeysAnswer();
   yes_ = script_.Question(text, buttons, icon);
   words_ = ToQt(text);
-  return QtMessages::Ask(text, buttons, icon);
+  const bool answer = QtMessages::Ask(text, buttons, icon, guard);
+  by_keys_ = false;
+  return answer;
 }
 
 void PilotMessages::Fatal(int number, const std::string& text) {
@@ -40,6 +43,11 @@ int PilotMessages::Execute(QMessageBox& box) {
   if (!box.isVisible() || shown != expected)
     script_.Fail("expected a box with " + InQuotes(expected.toStdString()) + ", found " +
                  (box.isVisible() ? InQuotes(shown.toStdString()) : "none") + " on the screen");
+
+  if (by_keys_) {
+    script_.GoOn([&box] { return !box.isVisible(); });
+    return box.standardButton(box.clickedButton());
+  }
 
   const auto choice = yes_ ? QMessageBox::Yes | QMessageBox::Ok : QMessageBox::No | QMessageBox::Cancel;
   QAbstractButton* button = nullptr;

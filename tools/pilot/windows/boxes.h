@@ -12,7 +12,7 @@ class PilotMessages : public QtMessages {
   PilotMessages(QtWindows& windows, Script& script) : QtMessages(windows), script_(script) {}
 
   void Show(const std::string& text) override;
-  bool Ask(const std::string& text, Buttons buttons, Icon icon) override;
+  bool Ask(const std::string& text, Buttons buttons, Icon icon, Guard guard) override;
   void Fatal(int number, const std::string& text) override;
 
  protected:
@@ -21,8 +21,9 @@ class PilotMessages : public QtMessages {
 
  private:
   Script& script_;
-  QString words_;    ///< What the box must say.
-  bool yes_ = true;  ///< The button to press.
+  QString words_;         ///< What the box must say.
+  bool yes_ = true;       ///< The button to press.
+  bool by_keys_ = false;  ///< The commands that follow press it.
 };
 
 class PilotDialogs : public QtFileDialogs {

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "pilot/way.h"
+
 class QAction;
 class QComboBox;
 
@@ -16,6 +18,10 @@ void UntilIdle();
 /// One key of the keyboard; Enter is 13.
 void Type(QWidget& widget, QChar character);
 void Strike(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+/// A key for whatever has the focus, an open list or menu included; it repeats by itself `repeats` times, each for what
+/// has the focus by then. False for a key that no keyboard has.
+bool HoldKey(const KeyStroke& stroke, int repeats);
 
 /// The left button of the mouse, at a place of the widget or on what of it can be clicked.
 void Press(QWidget& widget, QPoint place);

@@ -49,12 +49,10 @@ class WindowsWay : public Way {
 
   // --- Acting ---
 
-  bool Key(Control& control, int key, bool first) override {
+  bool Key(Control& control, int key, bool) override {
     if (!Clickable(control) && !dynamic_cast<TextField*>(&control) && !dynamic_cast<ListControl*>(&control))
       return false;
     QWidget& widget = Reach(control);
-    // A word looked for in a list ends when the list is left.
-    if (first && qobject_cast<QComboBox*>(&widget)) widget.clearFocus();
     Enter(control, widget);
     Type(widget, ToQt(std::string(1, static_cast<char>(key)))[0]);
     return true;
@@ -98,7 +96,7 @@ class WindowsWay : public Way {
     QWidget& widget = Reach(list);
     if (auto* combo = qobject_cast<QComboBox*>(&widget)) return PickRow(*combo, row);
     auto& rows = dynamic_cast<RowsView&>(widget);
-    Press(*rows.viewport(), PlaceOf(rows, row));
+    pilot::Press(*rows.viewport(), PlaceOf(rows, row));
   }
 
   bool Click(Control& control) override {
@@ -112,7 +110,7 @@ class WindowsWay : public Way {
       return true;
     }
     if (!field && !Clickable(control)) return false;
-    Press(Reach(control));
+    pilot::Press(Reach(control));
     return true;
   }
 
@@ -135,7 +133,7 @@ class WindowsWay : public Way {
   void Tick(ListBox& list, int row) override {
     auto& rows = dynamic_cast<RowsView&>(Reach(list));
     rows.horizontalScrollBar()->setValue(0);
-    Press(*rows.viewport(), {rows.TextStart() / 2, PlaceOf(rows, row).y()});
+    pilot::Press(*rows.viewport(), {rows.TextStart() / 2, PlaceOf(rows, row).y()});
   }
 
   void Choose(MenuItem& entry) override {
@@ -152,6 +150,14 @@ class WindowsWay : public Way {
     QWidget* window = windows_.WindowOf(form);
     if (!window) throw Failure{form.Name() + " has no window on the screen"};
     window->close();
+  }
+
+  bool OnScreen() const override { return true; }
+
+  bool Press(const KeyStroke& stroke, int repeats) override {
+    windows_.ShowPending();
+    UntilIdle();
+    return HoldKey(stroke, repeats);
   }
 
   void Settle() override {
