@@ -208,7 +208,7 @@ TEST_F(Controls, EachSettingOfAnIndexIsAClick) {
   EXPECT_EQ(ErrorOf([&] { page.combo.SetListIndex(-2); }), 9);
   EXPECT_EQ(Events(), Lines{});
   page.combo.SetListIndex(0);
-  // A text that is set picks its row in a choice box, and is no click.
+  // A text that is set picks its row, and is no click.
   page.combo.SetText("50 Mhz");
   EXPECT_EQ(page.combo.ListIndex(), 1);
   page.combo.SetText("70 Mhz");
@@ -216,7 +216,12 @@ TEST_F(Controls, EachSettingOfAnIndexIsAClick) {
   EXPECT_EQ(page.combo.Text(), "70 Mhz");
   page.editable.AddItem("SSB");
   page.editable.SetText("SSB");
+  EXPECT_EQ(page.editable.ListIndex(), 0);
+  // So does one that is typed, at the letter that completes it and no longer.
+  for (const char key : std::string("SSBX")) Event([&] { page.editable.UserKey(key); });
   EXPECT_EQ(page.editable.ListIndex(), -1);
+  Event([&] { page.editable.UserText("SSB"); });
+  EXPECT_EQ(page.editable.ListIndex(), 0);
   EXPECT_EQ(Events(), Lines{"combo 0"});
 }
 

@@ -21,7 +21,11 @@ QPointF OnImage(const PictureBoard& board, const QSize& plain, const QWidget& ce
 
 QImage Delivered(const QString& file) { return QImage(QStringLiteral(VORELIO_DATA_DIR "/") + file); }
 
-using PictureTest = On<WindowsBench>;
+/// Maps are painted beside the grid of the main window.
+class PictureTest : public On<WindowsBench> {
+ protected:
+  PictureTest() { Open<DDFM>(); }
+};
 
 TEST_F(PictureTest, CellsKeepTheirPlaceAsTheWindowGrows) {
   Carte& map = Open<Carte>();
@@ -38,8 +42,6 @@ TEST_F(PictureTest, CellsKeepTheirPlaceAsTheWindowGrows) {
 }
 
 TEST_F(PictureTest, ArrowsLeadToTheNearestCell) {
-  // The main window comes with the first map that is painted, and would come to the front.
-  Open<DDFM>();
   Carte& map = Open<Carte>();
   EXPECT_TRUE(QTest::qWaitForWindowActive(windows.WindowOf(map)));
   auto* cell = windows.WidgetOf(map.Dep(55));

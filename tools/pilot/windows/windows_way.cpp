@@ -49,10 +49,12 @@ class WindowsWay : public Way {
 
   // --- Acting ---
 
-  bool Key(Control& control, int key, bool) override {
+  bool Key(Control& control, int key, bool first) override {
     if (!Clickable(control) && !dynamic_cast<TextField*>(&control) && !dynamic_cast<ListControl*>(&control))
       return false;
     QWidget& widget = Reach(control);
+    // A word looked for in a list begins anew, as after a pause.
+    if (auto* combo = dynamic_cast<ComboBox*>(&control); combo && first) combo->UserKeysBegin();
     Enter(control, widget);
     Type(widget, ToQt(std::string(1, static_cast<char>(key)))[0]);
     return true;
