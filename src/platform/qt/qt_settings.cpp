@@ -4,59 +4,25 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "core/errors.h"
-#include "platform/ini_text.h"
 #include "platform/qt/qt_text.h"
 
 namespace vorelio {
 
-namespace {
-
-/// One part of a name. The two slashes part groups in the file's names, and a name can't be empty: "~" and the
-/// character's number stand for such a character, "~" alone for the empty name.
-std::string Part(const std::string& name) {
-  if (name.empty()) return "~";
-  std::string part;
-  for (const char c : name) {
-    switch (c) {
-      case '/': part += "~2f"; break;
-      case '\\': part += "~5c"; break;
-      case '~': part += "~7e"; break;
-      default: part += c;
-    }
-  }
-  return part;
-}
-
-}  // namespace
-
 QtSettings::QtSettings(const QString& file)
     : folder_(QFileInfo(file).absolutePath()),
       path_(FromQt(QFileInfo(file).absoluteFilePath())),
-      disk_(path_, QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString()) {}
-
-std::string QtSettings::Bytes() {
-  try {
-    return disk_.ReadAll(path_);
-  } catch (const Erreur_Execution& error) {
-    if (error.Genre() != Erreur::Fichier_Introuvable) throw;
-    return {};
-  }
-}
+      disk_(path_, QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString()),
+      settings_(disk_, path_) {}
 
 std::optional<std::string> QtSettings::Read(const std::string& application, const std::string& section,
                                             const std::string& key) {
-  return IniText(Bytes()).Value(Part(application), Part(section) + "/" + Part(key));
+  return settings_.Read(application, section, key);
 }
 
 void QtSettings::Write(const std::string& application, const std::string& section, const std::string& key,
                        const std::string& value) {
-  const std::string old = Bytes();
-  IniText text(old);
-  text.SetValue(Part(application), Part(section) + "/" + Part(key), value);
-  if (text.Bytes() == old) return;
   QDir().mkpath(folder_);
-  disk_.WriteAll(path_, text.Bytes());
+  settings_.Write(application, section, key, value);
 }
 
 }  // namespace vorelio
