@@ -209,8 +209,6 @@ class FolderTarget {
       Type(Main().Debut_A, "10:00");
     });
     if (!entered || programme_->contexte.Station_Indicatif != "F9QZX") return;
-    // Without an end to its last line the log is the disk's to mend, which this one doesn't.
-    if (!Log().empty() && !Log().ends_with('\n')) return;
     const auto before = Lines(Log());
     const bool saved = Deed([&] {
       Main().Enregistrer.SetEnabled(true);
