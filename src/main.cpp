@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDir>
 #include <QMessageBox>
 #include <QTimer>
 #include <csignal>
@@ -9,6 +10,7 @@
 #include "entry/ddfm.h"
 #include "platform/qt/application.h"
 #include "platform/qt/display.h"
+#include "platform/qt/single_program.h"
 
 using namespace vorelio;
 
@@ -24,8 +26,9 @@ constexpr const char* kHelp =
     "Les fichiers des stations sont à côté du programme, ou, si ce dossier est protégé, dans\n"
     "~/.local/share/Vorelio. Les réglages sont dans ~/.config/Vorelio.\n";
 
-/// Statuses besides 0: a run-time error ended the program, there is no folder to work in, there is no display.
-constexpr int kFatal = 1, kNoFolder = 2, kNoDisplay = 3;
+/// Statuses besides 0: a run-time error ended the program, there is no folder to work in, there is no display, another
+/// program works on the folder.
+constexpr int kFatal = 1, kNoFolder = 2, kNoDisplay = 3, kSecond = 4;
 
 int Run() {
   SetUpApplication();
@@ -35,7 +38,18 @@ int Run() {
     QMessageBox::critical(nullptr, QStringLiteral("Vorelio"), problem);
     return kNoFolder;
   }
+  SingleProgram single(*folder);
+  if (!single.First()) {
+    QMessageBox::information(
+        nullptr, QStringLiteral("Vorelio"),
+        QStringLiteral("Vorelio est déjà ouvert sur le dossier :\n%1\n\nUn seul programme à la fois "
+                       "peut y travailler : la fenêtre déjà ouverte passe devant.")
+            .arg(QDir::toNativeSeparators(folder->path)));
+    single.Call();
+    return kSecond;
+  }
   Application application(*folder, SettingsFolder());
+  single.Listen([&] { application.windows.ComeToFront(); });
   Programme programme(application.Services());
   // The start is an event like any other: what it opens is served by the loop below.
   QTimer::singleShot(0, &application.windows,

@@ -184,9 +184,11 @@ void Programme::Traite_Evenements() {
 }
 
 void Programme::Cede_La_Main() const {
-  for (Tenue* tenue : tenues_) {
-    tenue->Depose();
-    tenue->interrompue_ = true;
+  // By place: what writes may have to wait itself, and others begin and end their work meanwhile.
+  for (std::size_t i = 0; i < tenues_.size(); ++i) {
+    Tenue& tenue = *tenues_[i];
+    tenue.Depose();
+    tenue.interrompue_ = true;
   }
 }
 
@@ -204,14 +206,14 @@ void Programme::Quitte_Si_Termine() const {
 
 void Programme::Fin_Sur_Erreur(int numero, const std::string& texte) {
   if (termine_) return;
-  // No event may reach the logic any more while the box waits.
-  termine_ = true;
-  erreur_fatale_ = numero;
   try {
     Cede_La_Main();
   } catch (const Erreur_Execution&) {
     // The first error is the one to tell.
   }
+  // No event may reach the logic any more while the box waits.
+  termine_ = true;
+  erreur_fatale_ = numero;
   plateforme.messages.Fatal(numero, texte);
   Termine();
 }

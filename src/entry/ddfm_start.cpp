@@ -205,7 +205,11 @@ void DDFM::Charge_Activites(int defaut_nombre, std::string_view defaut_nom) {
   Choisit_Activite();
 }
 
-void DDFM::Choisit_Activite() { Activ_A.SetListIndex(programme_.reglages.Nombre_Station("Activite", 0)); }
+void DDFM::Choisit_Activite() {
+  // A list that has been restored can be shorter than the one that the choice was made from.
+  const int choix = programme_.reglages.Nombre_Station("Activite", 0);
+  Activ_A.SetListIndex(choix >= 0 && choix < Activ_A.Count() ? choix : -1);
+}
 
 void DDFM::Montre_Options() {
   const bool utc = programme_.reglages.Booleen_Station("Heure UTC", true);

@@ -29,6 +29,13 @@ TEST(Fuzz, Imports) {
   }
 }
 
+TEST(Fuzz, FilesOfTheFolder) {
+  for (const auto& [name, file] : FolderFiles()) {
+    SCOPED_TRACE(name);
+    Ends(name.c_str(), 12);
+  }
+}
+
 TEST(Fuzz, ClusterPage) {
   auto ends = Ends("cluster", 5000);
   for (const int error : {0, 5, 62}) EXPECT_GT(ends[error], 100) << error;

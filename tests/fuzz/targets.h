@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "fuzz/cluster_page_target.h"
+#include "fuzz/folder_target.h"
 #include "fuzz/import_target.h"
 
 namespace vorelio::tests {
@@ -17,7 +19,22 @@ struct FuzzTarget {
   std::string seed;
 };
 
-/// An importer or the reader of the cluster page: "adif", "edi", "native", "cluster"; nothing to run for another name.
+/// The files of the folder that are fed, by the names of their targets.
+inline const std::map<std::string, std::string, std::less<>>& FolderFiles() {
+  static const std::map<std::string, std::string, std::less<>> files = {{"log", "F9QZX.log"},
+                                                                        {"departments", "F9QZX_Departement.txt"},
+                                                                        {"squares", "F9QZX_Locator.txt"},
+                                                                        {"prefixes", "F9QZX_Prefixe.txt"},
+                                                                        {"directory", "Nomenclature.txt"},
+                                                                        {"template", "FXXXX_Locator.txt"},
+                                                                        {"activities", "F9QZX_Activite.bak"},
+                                                                        {"backup", "F9QZX.bak"},
+                                                                        {"settings", "Vorelio.ini"}};
+  return files;
+}
+
+/// An importer, the reader of the cluster page or a file of the folder: "adif", "edi", "native", "cluster", or one of
+/// `FolderFiles`; nothing to run for another name.
 inline FuzzTarget TargetOf(std::string_view name) {
   const auto importing = [](const ImportTarget::Importer& importer) {
     const auto target = std::make_shared<ImportTarget>(importer);
@@ -27,6 +44,10 @@ inline FuzzTarget TargetOf(std::string_view name) {
   if (name == "edi") return importing(ImportTarget::Edi());
   if (name == "native") return importing(ImportTarget::Native());
   if (name == "cluster") return {RunClusterPage, ClusterPageSeed()};
+  if (const auto file = FolderFiles().find(name); file != FolderFiles().end()) {
+    const auto target = std::make_shared<FolderTarget>(file->second);
+    return {[target](std::string_view bytes) { return target->Run(bytes); }, FolderTarget::Seeds()[file->second]};
+  }
   return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "bench/line_by_line.h"
 #include "core/errors.h"
+#include "core/log_line.h"
 #include "entry/ddfm.h"
 #include "support/random_log.h"
 #include "support/station_fixture.h"
@@ -135,6 +136,23 @@ TEST_F(Rebuild, AnEmptyLogGivesTheTemplate) {
   Event([&] { Refait_Prefixes(*programme); });
   EXPECT_EQ(Read("F9QZX_Prefixe.txt"), Read("FXXXX_Prefixe.txt"));
   EXPECT_EQ(messages.TakeMessages(), Lines{"Le fichier Prefixe va etre mis a jour a partir du fichier log"});
+}
+
+// A tally line that ends before the band has no code there yet; a contact whose line ends before its state has none.
+TEST_F(Rebuild, LinesThatEndEarly) {
+  Write("FXXXX_Departement.txt", "06 00\r\n07\r\n08 00002\r\n\r\n");
+  const auto line = [](const char* department, char state) {
+    Champs_QSO contact;
+    contact.Depart_A = department;
+    contact.Bande_A = "14 Mhz";
+    contact.Bloc_QSL[7] = state;
+    return Construit_Ligne(contact);
+  };
+  WriteLines("F9QZX.log", {line("06", '3'), line("07", ' '), line("08", '1').substr(0, 134), line("08", ' ')});
+  Start();
+  Event([&] { Refait_Departements(*programme); });
+  EXPECT_EQ(messages.fatal_number, 0);
+  EXPECT_EQ(Read("F9QZX_Departement.txt"), "06 00003\r\n07\r\n08 00002\r\n\r\n");
 }
 
 TEST_F(Rebuild, TheLocatorRebuildNamesTheTemplateWhateverIsMissing) {

@@ -74,6 +74,82 @@ TEST(SettingsTest, WhatIsNoTextOfTheSetCountsAsAbsent) {
   EXPECT_EQ(store.Read("DDFM", "Setup", "bon").value_or("absent"), "a");
 }
 
+// A file that somebody has edited: each line counts for itself, and writing goes on.
+TEST(SettingsTest, ADamagedFileLosesNothingOfItsOtherLines) {
+  const ScratchFolder folder;
+  const std::string path = folder.File("Vorelio.ini");
+  const std::string damaged[] = {"\xEF\xBB\xBF",       "no equals sign\n",  "[half\n", "; a remark\n",
+                                 "x=\"never closed\n", "y=C:\\Vorelio\\\n", "\r\n"};
+  for (const std::string& damage : damaged) {
+    for (const bool before : {true, false}) {
+      const std::string good = "Setup\\a=1\nSetup\\b=\"x;y\"\n";
+      folder.Write("Vorelio.ini",
+                   before ? damage + "[DDFM]\n" + good : "[DDFM]\nSetup\\0=z\n" + damage + "[DDFM]\n" + good);
+      QtSettings store(ToQt(path));
+      EXPECT_EQ(store.Read("DDFM", "Setup", "a").value_or("absent"), "1") << damage;
+      EXPECT_EQ(ErrorOf([&] { store.Write("DDFM", "Setup", "c", "3"); }), 0) << damage;
+      EXPECT_EQ(ErrorOf([&] { store.Write("DDFM", "Setup", "a", "2"); }), 0) << damage;
+      QtSettings other(ToQt(path));
+      EXPECT_EQ(other.Read("DDFM", "Setup", "a").value_or("absent"), "2") << damage;
+      EXPECT_EQ(other.Read("DDFM", "Setup", "b").value_or("absent"), "x;y") << damage;
+      EXPECT_EQ(other.Read("DDFM", "Setup", "c").value_or("absent"), "3") << damage;
+    }
+  }
+}
+
+TEST(SettingsTest, AFailureIsOverWhenItsCauseIs) {
+  const ScratchFolder folder;
+  folder.Write("lie", "");
+  QtSettings store(ToQt(folder.File("lie/Vorelio.ini")));
+  EXPECT_NE(ErrorOf([&] { store.Write("DDFM", "Setup", "x", "1"); }), 0);
+  folder.Remove("lie");
+  EXPECT_EQ(ErrorOf([&] { store.Write("DDFM", "Setup", "x", "2"); }), 0);
+  EXPECT_EQ(folder.Read("lie/Vorelio.ini"), "[DDFM]\nSetup\\x=2\n");
+}
+
+// The store's syntax is the toolkit's, whose files are out there.
+TEST(SettingsTest, ReadsWhatTheToolkitWritesAndTheReverse) {
+  const ScratchFolder folder;
+  const QString path = ToQt(folder.File("Vorelio.ini"));
+  const std::string accents = "été €"_t;
+  const std::vector<std::string> texts = {"",
+                                          " a ",
+                                          "a;b",
+                                          "a,b",
+                                          "a=b",
+                                          "@x",
+                                          "\"q\"",
+                                          "a\\b",
+                                          "[x]",
+                                          "#x",
+                                          "a\r\n\tb\v",
+                                          "\x01"
+                                          "f0\x02",
+                                          "50%",
+                                          accents};
+  const auto name = [](const char* section, std::size_t i) { return ToQt(section + std::to_string(i)); };
+  {
+    QSettings toolkit(path, QSettings::IniFormat);
+    for (std::size_t i = 0; i < texts.size(); ++i) toolkit.setValue(name("DDFM/Setup /n", i), ToQt(texts[i]));
+    toolkit.setValue(ToQt("General/Setup/k"), ToQt("x"));
+    toolkit.setValue(ToQt(accents + "/Setup/" + accents), ToQt("y"));
+  }
+  QtSettings store(path);
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    EXPECT_EQ(store.Read("DDFM", "Setup ", "n" + std::to_string(i)).value_or("absent"), texts[i]);
+    store.Write("Ecrit", "Setup ", "n" + std::to_string(i), texts[i]);
+    store.Write("general", "Setup", "n" + std::to_string(i), "g");
+  }
+  EXPECT_EQ(store.Read("General", "Setup", "k").value_or("absent"), "x");
+  EXPECT_EQ(store.Read(accents, "Setup", accents).value_or("absent"), "y");
+  const QSettings toolkit(path, QSettings::IniFormat);
+  EXPECT_EQ(toolkit.status(), QSettings::NoError);
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    EXPECT_EQ(FromQt(toolkit.value(name("Ecrit/Setup /n", i)).toString()), texts[i]);
+    EXPECT_EQ(FromQt(toolkit.value(name("general/Setup/n", i)).toString()), "g");
+  }
+}
+
 // --- The program's folder ---
 
 TEST(SettingsTest, TheProgramsOwnFolderComesFirst) {

@@ -64,13 +64,13 @@ void ComboView::ShowDeferred() {
 void ComboView::ShowText() {
   const QScopedValueRollback<bool> showing(showing_, true);
   const QString text = ToQt(control_.Text());
+  // Before the row: taken away, the text in a row's place leaves the first row selected.
+  if (!shown_.lineEdit()) shown_.setPlaceholderText(text);
   if (shown_.currentIndex() != control_.ListIndex()) shown_.setCurrentIndex(control_.ListIndex());
   if (QLineEdit* edit = shown_.lineEdit()) {
     if (edit->text() != text) edit->setText(text);
     // The next character takes the place of a text that was chosen, and joins one that was typed.
     if (control_.ReplacedByKey() && shown_.window()->focusWidget() == &shown_) edit->selectAll();
-  } else {
-    shown_.setPlaceholderText(text);
   }
 }
 

@@ -197,6 +197,17 @@ void QtWindows::ShowWindow(Window& window) {
   FocusFirst(window);
 }
 
+void QtWindows::ComeToFront() {
+  const auto raise = [](QWidget& widget) {
+    widget.setWindowState(widget.windowState() & ~Qt::WindowMinimized);
+    widget.raise();
+    widget.activateWindow();
+  };
+  for (const auto& window : windows_)
+    if (window->form->Main() && window->widget->isVisible()) raise(*window->widget);
+  if (QWidget* waiting = QApplication::activeModalWidget()) raise(*waiting);
+}
+
 void QtWindows::FocusFirst(Window& window) {
   if (window.widget->focusWidget()) return;
   // The window's property "premier" names the widget to begin with, where that isn't the first of the tab chain.

@@ -50,6 +50,10 @@ class QtWindows : public QObject, public WindowService, private Gate {
   /// Puts what is still waiting on the screen: windows to be shown or hidden, lists to be filled.
   void ShowPending();
 
+  /// Brings the program to the front, as far as the desktop lets it: the main window, and over it what waits for an
+  /// answer.
+  void ComeToFront();
+
   /// The window of a form, null if it is none of these windows.
   QWidget* WindowOf(const Form& form) const;
   /// The widget of a control, up to date; null when there is none.
