@@ -65,10 +65,6 @@ class Copie_Log {
   std::optional<Moment> precedent_;
 };
 
-std::string Compte(std::size_t nombre, const std::string& un, const std::string& plusieurs) {
-  return std::to_string(nombre) + " " + (nombre < 2 ? un : plusieurs);
-}
-
 }  // namespace
 
 std::string Ligne_Repere(std::string_view heures) {

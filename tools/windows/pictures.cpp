@@ -21,6 +21,7 @@
 #include "entry/ddfm.h"
 #include "exchange/award_export_window.h"
 #include "exchange/export_adif_window.h"
+#include "exchange/import_journal_window.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/notes_window.h"

@@ -1,0 +1,239 @@
+#include "exchange/import_journal_window.h"
+
+#include <functional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/clock_text.h"
+#include "core/errors.h"
+#include "core/log_file.h"
+#include "core/log_line.h"
+#include "core/text.h"
+#include "entry/ddfm.h"
+#include "exchange/adif_export.h"
+#include "exchange/award_export_window.h"
+#include "exchange/journal_files.h"
+#include "qsl/multi_qsl_window.h"
+#include "qsl/qsl_window.h"
+#include "tallies/rebuild.h"
+
+namespace vorelio {
+
+using namespace Sous_Programmes;
+
+namespace {
+
+constexpr std::string_view kFiltre = "Journaux|*.adi;*.adif;*.edi";
+
+/// A log of 99,999 contacts, each with all that the field's programs note, has less.
+constexpr std::uint64_t kTaille_Max = 256U << 20;
+
+/// The largest number that a line of the list has room for.
+constexpr std::size_t kQSO_Max = 99999;
+
+/// The eye follows no faster.
+constexpr std::size_t kPas_Avance = 512;
+
+std::size_t Empreinte(std::string_view texte) { return std::hash<std::string_view>{}(texte); }
+
+/// "place, callsign, reason" in the columns of their titles.
+std::string Ligne_Refus(const Plan_Import::Refus& refus) {
+  constexpr std::size_t kPlace = 14, kIndicatif = 14;
+  const auto colonne = [](std::string texte, std::size_t largeur) {
+    if (texte.size() > largeur - 2) texte = texte.substr(0, largeur - 3) + "…"_t;
+    texte.resize(largeur, ' ');
+    return texte;
+  };
+  return colonne(refus.place, kPlace) + colonne(refus.indicatif, kIndicatif) + refus.raison;
+}
+
+}  // namespace
+
+Import_Journal::Import_Journal(Programme& programme)
+    : Form(programme, "Import_Journal", "Importer le journal d'un autre logiciel") {
+  EnableAll({&Doubles, &Confirmations, &Importer}, false);
+  Doubles.Click = [this] { Montre_Apercu(); };
+  Importer.Click = [this] { Importer_Click(); };
+  Quitter.Click = [this] { Unload(); };
+}
+
+// --- Reading --------------------------------------------------------------------------------------------------------
+
+std::string Import_Journal::Ouvre(const std::string& fichier) {
+  fichier_ = fichier;
+  std::string probleme;
+  ShowModal([&] {
+    probleme = Lit();
+    if (!probleme.empty()) Unload();
+  });
+  return probleme;
+}
+
+std::string Import_Journal::Lit() {
+  try {
+    if (programme_.Disque().Size(fichier_) > kTaille_Max)
+      return "Ce fichier est trop grand pour être un journal :\r\n"_t + fichier_;
+    journal_ = Lit_Journal(programme_.Disque().ReadAll(fichier_));
+  } catch (const Erreur_Execution& erreur) {
+    return Phrase_Erreur("Le fichier n'a pas pu être lu"_t, erreur);
+  }
+  if (!journal_.probleme.empty()) return journal_.probleme + "\r\n" + fichier_;
+  try {
+    if (Compare()) Montre();
+  } catch (const Erreur_Execution& erreur) {
+    return Phrase_Erreur("Le log de la station n'a pas pu être lu"_t, erreur);
+  }
+  journal_ = {};
+  return {};
+}
+
+bool Import_Journal::Compare() {
+  const std::string log = Texte_Log(programme_);
+  empreinte_ = Empreinte(log);
+  plan_.emplace(log, programme_.Fenetre<DDFM>().Mnu_UTC_Oui.Checked() ? Date_UTC(programme_) : Date_Locale(programme_));
+  const Contexte_Journal contexte = Contexte_Du_Journal(programme_);
+  for (std::size_t i = 0; i < journal_.fiches.size(); ++i) {
+    plan_->Prend(Lit_QSO(journal_, i, contexte));
+    if (i % kPas_Avance == 0 && !Montre_Avance(i)) return false;
+  }
+  plan_->Acheve();
+  return true;
+}
+
+bool Import_Journal::Montre_Avance(std::size_t fait) {
+  Avance.SetProgress(static_cast<int>(fait), static_cast<int>(journal_.fiches.size()));
+  programme_.Traite_Evenements();
+  return !Unloaded();
+}
+
+// --- Showing --------------------------------------------------------------------------------------------------------
+
+void Import_Journal::Montre() {
+  Format.SetCaption(journal_.format);
+  SetTitle("Importer le journal d'un autre logiciel : " + Nom_De_Fichier(programme_, fichier_));
+  const auto montre = [](Label& label, std::size_t nombre) { label.SetCaption(std::to_string(nombre)); };
+  montre(Nb_Lus, plan_->Lus());
+  montre(Nb_Nouveaux, plan_->Nouveaux());
+  montre(Nb_Doubles, plan_->Doubles());
+  montre(Nb_Refuses, plan_->Refuses());
+  montre(Nb_Confirmes, plan_->Confirmes());
+  montre(Nb_Coupes, plan_->Coupes());
+
+  std::vector<std::string> refus;
+  for (const Plan_Import::Refus& refusee : plan_->Refusees()) refus.push_back(Ligne_Refus(refusee));
+  Liste_Refus.ClearItems();
+  Liste_Refus.AddItems(std::move(refus));
+  Montre_Apercu();
+  Avance.SetVisible(false);
+  EnableAll({&Doubles, &Confirmations, &Importer}, true);
+}
+
+void Import_Journal::Montre_Apercu() {
+  std::vector<std::string> lignes;
+  for (const Ligne_A_Placer& a_placer : plan_->Lignes(Doubles.Checked())) lignes.emplace_back(a_placer.ligne);
+  Liste_Apercu.ClearItems();
+  Liste_Apercu.AddItems(std::move(lignes));
+}
+
+// --- Importing ------------------------------------------------------------------------------------------------------
+
+std::optional<std::string> Import_Journal::Nouveau_Log(std::string_view log) {
+  const auto lignes = plan_->Lignes(Doubles.Checked());
+  const std::size_t total = static_cast<std::size_t>(Nombre_De_Lignes(log)) + lignes.size();
+  if (total > kQSO_Max) {
+    programme_.Message("Le log aurait "_t + std::to_string(total) + " QSO, et il peut en compter "_t +
+                       std::to_string(kQSO_Max) + " au plus.\r\nRien n'a été importé."_t);
+    return {};
+  }
+  return Log_Fusionne(log, lignes, Confirmations.Checked() ? plan_->Confirmees() : Lignes_Changees{});
+}
+
+void Import_Journal::Importer_Click() {
+  std::string garde;
+  std::size_t ajoutes = static_cast<std::size_t>(Liste_Apercu.Count());
+  const bool reporte = Confirmations.Checked() && plan_->Confirmes() > 0;
+  try {
+    const std::string log = Texte_Log(programme_);
+    if (Empreinte(log) != empreinte_) {
+      // Somebody else has written it: what was shown no longer holds.
+      const std::string probleme = Lit();
+      return programme_.Message(probleme.empty() ? "Le log a changé depuis la lecture du fichier. Les comptes ont été "
+                                                   "refaits : vérifiez-les avant d'importer."_t
+                                                 : probleme);
+    }
+    if (ajoutes > 0 || reporte) {
+      const auto nouveau = Nouveau_Log(log);
+      if (!nouveau) return;
+      garde = Garde_Log(programme_);
+      Remplace_Log(programme_, *nouveau);
+    }
+  } catch (const Erreur_Execution& erreur) {
+    return programme_.Message(Phrase_Erreur("Rien n'a été importé"_t, erreur));
+  }
+  Termine_Import(garde, ajoutes);
+}
+
+void Import_Journal::Termine_Import(const std::string& garde, std::size_t ajoutes) {
+  std::string dit = "Import : " + Compte(ajoutes, "QSO ajouté"_t, "QSO ajoutés"_t);
+  if (Confirmations.Checked() && plan_->Confirmes() > 0)
+    dit += ", " + Compte(plan_->Confirmes(), "QSL reportée"_t, "QSL reportées"_t);
+  if (!Doubles.Checked() && plan_->Doubles() > 0)
+    dit += ", " + Compte(plan_->Doubles(), "double laissé"_t, "doubles laissés"_t);
+  std::vector<std::string> echecs;
+  const auto essaie = [&](const std::string& phrase, const auto& etape) {
+    try {
+      etape();
+    } catch (const Erreur_Execution& erreur) {
+      echecs.push_back(Phrase_Erreur(phrase, erreur));
+    }
+  };
+  if (plan_->Refuses() > 0) {
+    dit += ", " + Compte(plan_->Refuses(), "refusé"_t, "refusés"_t);
+    essaie("Les fiches refusées n'ont pas pu être écrites"_t, [&] { dit += " (" + Ecrit_Refus() + ")"; });
+  }
+  if (!garde.empty()) {
+    dit += " ; log d'avant : " + garde;
+    essaie("Les QSO sont dans le log, mais les tableaux n'ont pas pu être refaits (menu Outils)"_t,
+           [&] { Refait_Pointages(programme_); });
+  }
+  // What they show goes by the selected line or its number, which are others now.
+  if (auto* cartes = programme_.Ouverte<Multi_QSL>()) cartes->Unload();
+  if (auto* carte = programme_.Ouverte<QSL>()) carte->Unload();
+  if (auto* export_qso = programme_.Ouverte<Exporter_QSO>()) export_qso->Unload();
+  plan_.reset();
+  Liste_Apercu.ClearItems();
+  Unload();
+
+  auto& ddfm = programme_.Fenetre<DDFM>();
+  if (!garde.empty()) {
+    Charge_Log(programme_, programme_.contexte.Station_Indicatif);
+    ddfm.Liste_QSO.SetListIndex(ddfm.Liste_QSO.Count() - 1);
+    ddfm.Repeint_Grille();
+  }
+  ddfm.Etat.SetCaption(dit);
+  for (const std::string& echec : echecs) programme_.Message(echec);
+}
+
+/// Gives the name of the file.
+std::string Import_Journal::Ecrit_Refus() {
+  const std::string fichier = Fichier_Refuses(fichier_);
+  std::string texte;
+  for (const Plan_Import::Refus& refus : plan_->Refusees()) texte.append(refus.texte).append(kFin_De_Ligne);
+  programme_.Disque().WriteAll(fichier, texte);
+  return Nom_De_Fichier(programme_, fichier);
+}
+
+namespace Sous_Programmes {
+
+void Importe_Journal(Programme& programme) {
+  if (!Pret_Pour_Un_Journal(programme)) return;
+  const std::string fichier = programme.Choisit_Fichier(std::string(kFiltre));
+  if (fichier.empty()) return;
+  const std::string probleme = programme.Fenetre<Import_Journal>().Ouvre(fichier);
+  if (!probleme.empty()) programme.Message(probleme);
+}
+
+}  // namespace Sous_Programmes
+
+}  // namespace vorelio

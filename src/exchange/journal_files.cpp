@@ -1,0 +1,46 @@
+#include "exchange/journal_files.h"
+
+#include "core/text.h"
+#include "entry/ddfm.h"
+
+namespace vorelio {
+
+Contexte_Journal Contexte_Du_Journal(Programme& programme) {
+  Contexte_Journal contexte;
+  contexte.locator = programme.contexte.Station_Locator;
+  contexte.activites = programme.Fenetre<DDFM>().Activ_A.Items();
+  return contexte;
+}
+
+bool Pret_Pour_Un_Journal(Programme& programme) {
+  if (programme.contexte.Station_Indicatif == kStation_Modele) {
+    programme.Message(
+        "Donnez d'abord l'indicatif de votre station : menu Fichier, Indicatif et locator de la station.");
+    return false;
+  }
+  if (programme.saisie.QSO_Edition) {
+    programme.Message("Validez ou annulez d'abord la correction du QSO.");
+    return false;
+  }
+  return true;
+}
+
+std::string Nom_De_Fichier(const Programme& programme, std::string_view chemin) {
+  return std::string(chemin.substr(chemin.find_last_of(programme.plateforme.separator) + 1));
+}
+
+std::string Fichier_Refuses(const std::string& fichier) {
+  const std::size_t point = fichier.find_last_of('.');
+  return fichier.substr(0, point) + "-refuses" + fichier.substr(point);
+}
+
+std::string Phrase_Erreur(const std::string& phrase, const Erreur_Execution& erreur) {
+  // The number is for whoever mends the program; what it was about, the path, comes behind.
+  const std::string& texte = erreur.Texte();
+  std::string raison = texte.substr(texte.find(" : ") + 3);
+  if (erreur.Genre() == Erreur::Acces_Chemin)
+    raison.replace(0, raison.find("\r\n"), "Ce n'est pas un fichier ordinaire"_t);
+  return phrase + ".\r\n" + raison;
+}
+
+}  // namespace vorelio
