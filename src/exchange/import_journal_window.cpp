@@ -8,9 +8,8 @@
 #include "core/clock_text.h"
 #include "core/errors.h"
 #include "core/log_file.h"
-#include "core/log_line.h"
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
 #include "exchange/adif_export.h"
 #include "exchange/award_export_window.h"
 #include "exchange/journal_files.h"
@@ -24,35 +23,33 @@ using namespace Sous_Programmes;
 
 namespace {
 
+constexpr const char* kTitre = "Importer le journal d'un autre logiciel";
 constexpr std::string_view kFiltre = "Journaux|*.adi;*.adif;*.edi";
-
-/// A log of 99,999 contacts, each with all that the field's programs note, has less.
-constexpr std::uint64_t kTaille_Max = 256U << 20;
 
 /// The largest number that a line of the list has room for.
 constexpr std::size_t kQSO_Max = 99999;
 
-/// The eye follows no faster.
-constexpr std::size_t kPas_Avance = 512;
-
 std::size_t Empreinte(std::string_view texte) { return std::hash<std::string_view>{}(texte); }
 
-/// "place, callsign, reason" in the columns of their titles.
-std::string Ligne_Refus(const Plan_Import::Refus& refus) {
-  constexpr std::size_t kPlace = 14, kIndicatif = 14;
+/// The window was closed while the file was being read.
+class Abandon {};
+
+/// Place, callsign and reason in the columns of their titles.
+std::string Ligne_Refus(const QSO_Refuse& refus) {
+  constexpr std::size_t kPlace = 28, kIndicatif = 14;
   const auto colonne = [](std::string texte, std::size_t largeur) {
     if (texte.size() > largeur - 2) texte = texte.substr(0, largeur - 3) + "…"_t;
     texte.resize(largeur, ' ');
     return texte;
   };
-  return colonne(refus.place, kPlace) + colonne(refus.indicatif, kIndicatif) + refus.raison;
+  return colonne("Fiche " + std::to_string(refus.numero) + ", ligne " + std::to_string(refus.place), kPlace) +
+         colonne(refus.indicatif, kIndicatif) + refus.raison;
 }
 
 }  // namespace
 
 Import_Journal::Import_Journal(Programme& programme)
-    : Form(programme, "Import_Journal", "Importer le journal d'un autre logiciel") {
-  EnableAll({&Doubles, &Confirmations, &Importer}, false);
+    : Form(programme, "Import_Journal", kTitre) {
   Doubles.Click = [this] { Montre_Apercu(); };
   Importer.Click = [this] { Importer_Click(); };
   Quitter.Click = [this] { Unload(); };
@@ -71,57 +68,57 @@ std::string Import_Journal::Ouvre(const std::string& fichier) {
 }
 
 std::string Import_Journal::Lit() {
+  EnableAll({&Doubles, &Confirmations, &Importer}, false);
+  Avance.SetVisible(true);
+  std::string octets;
   try {
-    if (programme_.Disque().Size(fichier_) > kTaille_Max)
-      return "Ce fichier est trop grand pour être un journal :\r\n"_t + fichier_;
-    journal_ = Lit_Journal(programme_.Disque().ReadAll(fichier_));
+    if (programme_.Disque().Size(fichier_) > kTaille_Max_Journal) return Journal_Trop_Long();
+    octets = programme_.Disque().ReadAll(fichier_);
   } catch (const Erreur_Execution& erreur) {
     return Phrase_Erreur("Le fichier n'a pas pu être lu"_t, erreur);
   }
-  if (!journal_.probleme.empty()) return journal_.probleme + "\r\n" + fichier_;
   try {
-    if (Compare()) Montre();
+    Journal_Lu journal = Lit_Journal(octets, Contexte_Du_Journal(programme_),
+                                     [this](std::size_t fait, std::size_t total) { Montre_Avance(fait, total); });
+    if (!journal.illisible.empty()) return journal.illisible;
+    Compare(std::move(journal));
   } catch (const Erreur_Execution& erreur) {
     return Phrase_Erreur("Le log de la station n'a pas pu être lu"_t, erreur);
+  } catch (const Abandon&) {
   }
-  journal_ = {};
   return {};
 }
 
-bool Import_Journal::Compare() {
-  const std::string log = Texte_Log(programme_);
-  empreinte_ = Empreinte(log);
-  plan_.emplace(log, programme_.Fenetre<DDFM>().Mnu_UTC_Oui.Checked() ? Date_UTC(programme_) : Date_Locale(programme_));
-  const Contexte_Journal contexte = Contexte_Du_Journal(programme_);
-  for (std::size_t i = 0; i < journal_.fiches.size(); ++i) {
-    plan_->Prend(Lit_QSO(journal_, i, contexte));
-    if (i % kPas_Avance == 0 && !Montre_Avance(i)) return false;
-  }
-  plan_->Acheve();
-  return true;
-}
-
-bool Import_Journal::Montre_Avance(std::size_t fait) {
-  Avance.SetProgress(static_cast<int>(fait), static_cast<int>(journal_.fiches.size()));
+void Import_Journal::Montre_Avance(std::size_t fait, std::size_t total) {
+  Avance.SetProgress(static_cast<int>(fait), static_cast<int>(total));
   programme_.Traite_Evenements();
-  return !Unloaded();
+  if (Unloaded()) throw Abandon{};
 }
 
 // --- Showing --------------------------------------------------------------------------------------------------------
 
-void Import_Journal::Montre() {
-  Format.SetCaption(journal_.format);
-  SetTitle("Importer le journal d'un autre logiciel : " + Nom_De_Fichier(programme_, fichier_));
+void Import_Journal::Compare(Journal_Lu journal) {
+  const std::string log = Texte_Log(programme_);
+  empreinte_ = Empreinte(log);
+  const std::string aujourdhui =
+      programme_.Principale().Saisie_En_UTC() ? Date_UTC(programme_) : Date_Locale(programme_);
+  const std::size_t lus = journal.Lus();
+  plan_.emplace(std::move(journal.qso), log, aujourdhui);
+  nb_refuses_ = journal.refuses.size();
+  refuses_ = Fichier_Refuses(journal);
+
+  Format.SetCaption(journal.format);
+  SetTitle(kTitre + std::string(" : ") + Nom_De_Fichier(programme_, fichier_));
   const auto montre = [](Label& label, std::size_t nombre) { label.SetCaption(std::to_string(nombre)); };
-  montre(Nb_Lus, plan_->Lus());
+  montre(Nb_Lus, lus);
   montre(Nb_Nouveaux, plan_->Nouveaux());
   montre(Nb_Doubles, plan_->Doubles());
-  montre(Nb_Refuses, plan_->Refuses());
+  montre(Nb_Refuses, nb_refuses_);
   montre(Nb_Confirmes, plan_->Confirmes());
   montre(Nb_Coupes, plan_->Coupes());
 
   std::vector<std::string> refus;
-  for (const Plan_Import::Refus& refusee : plan_->Refusees()) refus.push_back(Ligne_Refus(refusee));
+  for (const QSO_Refuse& refuse : journal.refuses) refus.push_back(Ligne_Refus(refuse));
   Liste_Refus.ClearItems();
   Liste_Refus.AddItems(std::move(refus));
   Montre_Apercu();
@@ -188,9 +185,13 @@ void Import_Journal::Termine_Import(const std::string& garde, std::size_t ajoute
       echecs.push_back(Phrase_Erreur(phrase, erreur));
     }
   };
-  if (plan_->Refuses() > 0) {
-    dit += ", " + Compte(plan_->Refuses(), "refusé"_t, "refusés"_t);
-    essaie("Les fiches refusées n'ont pas pu être écrites"_t, [&] { dit += " (" + Ecrit_Refus() + ")"; });
+  if (nb_refuses_ > 0) {
+    dit += ", " + Compte(nb_refuses_, "refusé"_t, "refusés"_t);
+    essaie("Les fiches refusées n'ont pas pu être écrites"_t, [&] {
+      const std::string fichier = Nom_Fichier_Refuses(fichier_);
+      programme_.Disque().WriteAll(fichier, refuses_);
+      dit += " (" + Nom_De_Fichier(programme_, fichier) + ")";
+    });
   }
   if (!garde.empty()) {
     dit += " ; log d'avant : " + garde;
@@ -205,23 +206,14 @@ void Import_Journal::Termine_Import(const std::string& garde, std::size_t ajoute
   Liste_Apercu.ClearItems();
   Unload();
 
-  auto& ddfm = programme_.Fenetre<DDFM>();
+  auto& principale = programme_.Principale();
   if (!garde.empty()) {
     Charge_Log(programme_, programme_.contexte.Station_Indicatif);
-    ddfm.Liste_QSO.SetListIndex(ddfm.Liste_QSO.Count() - 1);
-    ddfm.Repeint_Grille();
+    principale.Journal().SetListIndex(principale.Journal().Count() - 1);
+    principale.Repeint_Grille();
   }
-  ddfm.Etat.SetCaption(dit);
+  principale.Dit(dit);
   for (const std::string& echec : echecs) programme_.Message(echec);
-}
-
-/// Gives the name of the file.
-std::string Import_Journal::Ecrit_Refus() {
-  const std::string fichier = Fichier_Refuses(fichier_);
-  std::string texte;
-  for (const Plan_Import::Refus& refus : plan_->Refusees()) texte.append(refus.texte).append(kFin_De_Ligne);
-  programme_.Disque().WriteAll(fichier, texte);
-  return Nom_De_Fichier(programme_, fichier);
 }
 
 namespace Sous_Programmes {

@@ -38,21 +38,20 @@ class Import_Journal : public Form {
   Button Quitter{*this, "Quitter", "Quitter"};
 
  private:
+  /// Reads the file and sets its records against the log. Gives the sentence of a failure.
   std::string Lit();
-  /// Sets the records against the log as it is now; false if the window was closed meanwhile.
-  bool Compare();
-  bool Montre_Avance(std::size_t fait);
-  void Montre();
+  void Montre_Avance(std::size_t fait, std::size_t total);
+  void Compare(Journal_Lu journal);
   void Montre_Apercu();
   void Importer_Click();
   /// The log with what the window shows; nothing, with the box, if there can be no such log.
   std::optional<std::string> Nouveau_Log(std::string_view log);
   void Termine_Import(const std::string& garde, std::size_t ajoutes);
-  std::string Ecrit_Refus();
 
   std::string fichier_;
-  Journal_Lu journal_;
   std::optional<Plan_Import> plan_;
+  std::size_t nb_refuses_ = 0;
+  std::string refuses_;         ///< The file of the refused records.
   std::size_t empreinte_ = 0;  ///< Of the log that the records were set against.
 };
 

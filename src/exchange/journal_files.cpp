@@ -1,15 +1,18 @@
 #include "exchange/journal_files.h"
 
+#include <utility>
+#include <vector>
+
+#include "core/main_window.h"
 #include "core/text.h"
-#include "entry/ddfm.h"
+#include "maintenance/activities.h"
 
 namespace vorelio {
 
 Contexte_Journal Contexte_Du_Journal(Programme& programme) {
-  Contexte_Journal contexte;
-  contexte.locator = programme.contexte.Station_Locator;
-  contexte.activites = programme.Fenetre<DDFM>().Activ_A.Items();
-  return contexte;
+  std::vector<std::string> activites = Sous_Programmes::Noms_Activites(programme, "");
+  activites.insert(activites.begin(), kActivite_Ordinaire);
+  return {programme.Principale().Indicatif_Affiche(), programme.contexte.Station_Locator, std::move(activites), {}};
 }
 
 bool Pret_Pour_Un_Journal(Programme& programme) {
@@ -29,7 +32,7 @@ std::string Nom_De_Fichier(const Programme& programme, std::string_view chemin) 
   return std::string(chemin.substr(chemin.find_last_of(programme.plateforme.separator) + 1));
 }
 
-std::string Fichier_Refuses(const std::string& fichier) {
+std::string Nom_Fichier_Refuses(const std::string& fichier) {
   const std::size_t point = fichier.find_last_of('.');
   return fichier.substr(0, point) + "-refuses" + fichier.substr(point);
 }

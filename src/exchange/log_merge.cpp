@@ -1,7 +1,6 @@
 #include "exchange/log_merge.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "core/errors.h"
 #include "core/log_line.h"
@@ -13,14 +12,6 @@ namespace {
 
 constexpr int kAucune = -1;
 
-std::optional<Moment> Moment_De(std::string_view ligne) {
-  try {
-    return Moment_QSO(Champ_Log(ligne, champs::Date_A), Champ_Log(ligne, champs::Debut_A));
-  } catch (const Erreur_Execution&) {
-    return std::nullopt;
-  }
-}
-
 /// The moments as they are to be compared: they never go back. The longest run of lines in order gives them; a line
 /// astray has that of the line before it.
 std::vector<Moment> Moments_En_Ordre(std::string_view log) {
@@ -29,7 +20,7 @@ std::vector<Moment> Moments_En_Ordre(std::string_view log) {
   std::vector<int> dernieres;   // For each length: the line that such a run ends with, the earliest there is.
   for (Lecteur_Lignes lignes(log); !lignes.Fini();) {
     const int indice = static_cast<int>(moments.size());
-    moments.push_back(Moment_De(lignes.Suivante()));
+    moments.push_back(Moment_Ligne(lignes.Suivante()));
     precedente.push_back(kAucune);
     if (!moments.back()) continue;
     const auto place =
@@ -55,6 +46,14 @@ std::vector<Moment> Moments_En_Ordre(std::string_view log) {
 void Ajoute_Ligne(std::string& texte, std::string_view ligne) { texte.append(ligne).append(kFin_De_Ligne); }
 
 }  // namespace
+
+std::optional<Moment> Moment_Ligne(std::string_view ligne) {
+  try {
+    return Moment_QSO(Champ_Log(ligne, champs::Date_A), Champ_Log(ligne, champs::Debut_A));
+  } catch (const Erreur_Execution&) {
+    return std::nullopt;
+  }
+}
 
 void Trie_Par_Moment(std::vector<Ligne_A_Placer>& lignes) {
   std::stable_sort(lignes.begin(), lignes.end(),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,9 @@ struct Ligne_A_Placer {
 
 /// Lines of a log by their index from 0, and what takes their place.
 using Lignes_Changees = std::map<std::size_t, std::string>;
+
+/// The moment of a log line; nothing if its date or time is none.
+std::optional<Moment> Moment_Ligne(std::string_view ligne);
 
 /// Orders lines by date and start time; those of one minute stay in their order.
 void Trie_Par_Moment(std::vector<Ligne_A_Placer>& lignes);
