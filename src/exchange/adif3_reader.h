@@ -15,12 +15,18 @@ struct Champ_ADIF3 {
   std::string_view valeur;  ///< The bytes of the value.
 };
 
+/// What the names of this program's own fields begin with.
+inline constexpr std::string_view kPrefixe_Propre = "APP_VORELIO_";
+
 /// The fields of one record. Names are compared in any case, and asked for in capitals.
 class Enregistrement_ADIF {
  public:
-  void Vide() { champs_.clear(); }
-  void Ajoute(const Champ_ADIF3& champ) { champs_.push_back(champ); }
+  void Vide();
+  void Ajoute(const Champ_ADIF3& champ);
   bool Est_Vide() const { return champs_.empty(); }
+
+  /// Whether a field of this program's own is among them.
+  bool Propre() const { return propre_; }
 
   /// The last field of that name, nothing without one.
   const Champ_ADIF3* Cherche(std::string_view nom) const;
@@ -30,6 +36,7 @@ class Enregistrement_ADIF {
 
  private:
   std::vector<Champ_ADIF3> champs_;
+  bool propre_ = false;
 };
 
 /// Gives the records of a file one after another.
