@@ -95,6 +95,19 @@ void Insere_QSO_Log(Programme& programme, std::string_view ligne) {
   Reecrit_Log(programme, principale.Journal());
 }
 
+std::string Garde_Log(Programme& programme) {
+  const Instant moment = programme.plateforme.clock.Local();
+  std::string nom = programme.contexte.Station_Indicatif + ".log.garde-" + std::to_string(moment.year);
+  nom += Deux_Chiffres(moment.month) + Deux_Chiffres(moment.day) + "-";
+  nom += Deux_Chiffres(moment.hour) + Deux_Chiffres(moment.minute) + Deux_Chiffres(moment.second);
+  programme.Disque().Copy(programme.Chemin_Log(programme.contexte.Station_Indicatif), programme.Chemin(nom));
+  return nom;
+}
+
+void Remplace_Log(Programme& programme, std::string_view texte) {
+  programme.Disque().WriteAll(programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
+}
+
 void Efface_Ligne_Log(Programme& programme) {
   auto& principale = programme.Principale();
   principale.Journal().RemoveItem(principale.Journal().ListIndex());

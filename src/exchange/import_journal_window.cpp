@@ -48,8 +48,7 @@ std::string Ligne_Refus(const QSO_Refuse& refus) {
 
 }  // namespace
 
-Import_Journal::Import_Journal(Programme& programme)
-    : Form(programme, "Import_Journal", kTitre) {
+Import_Journal::Import_Journal(Programme& programme) : Form(programme, "Import_Journal", kTitre) {
   Doubles.Click = [this] { Montre_Apercu(); };
   Importer.Click = [this] { Importer_Click(); };
   Quitter.Click = [this] { Unload(); };

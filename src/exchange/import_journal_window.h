@@ -51,7 +51,7 @@ class Import_Journal : public Form {
   std::string fichier_;
   std::optional<Plan_Import> plan_;
   std::size_t nb_refuses_ = 0;
-  std::string refuses_;         ///< The file of the refused records.
+  std::string refuses_;        ///< The file of the refused records.
   std::size_t empreinte_ = 0;  ///< Of the log that the records were set against.
 };
 

@@ -11,7 +11,7 @@ namespace vorelio {
 
 Contexte_Journal Contexte_Du_Journal(Programme& programme) {
   std::vector<std::string> activites = Sous_Programmes::Noms_Activites(programme, "");
-  activites.insert(activites.begin(), kActivite_Ordinaire);
+  activites.insert(activites.begin(), "QSO");
   return {programme.Principale().Indicatif_Affiche(), programme.contexte.Station_Locator, std::move(activites), {}};
 }
 
