@@ -71,7 +71,7 @@ std::string Import_Journal::Lit() {
   Avance.SetVisible(true);
   std::string octets;
   try {
-    if (programme_.Disque().Size(fichier_) > kTaille_Max_Journal) return Journal_Trop_Long();
+    if (programme_.Disque().Size(fichier_) > kTaille_Max_Journal) return Journal_Trop_Long() + "\r\n" + fichier_;
     octets = programme_.Disque().ReadAll(fichier_);
   } catch (const Erreur_Execution& erreur) {
     return Phrase_Erreur("Le fichier n'a pas pu être lu"_t, erreur);
@@ -79,7 +79,7 @@ std::string Import_Journal::Lit() {
   try {
     Journal_Lu journal = Lit_Journal(octets, Contexte_Du_Journal(programme_),
                                      [this](std::size_t fait, std::size_t total) { Montre_Avance(fait, total); });
-    if (!journal.illisible.empty()) return journal.illisible;
+    if (!journal.illisible.empty()) return journal.illisible + "\r\n" + fichier_;
     Compare(std::move(journal));
   } catch (const Erreur_Execution& erreur) {
     return Phrase_Erreur("Le log de la station n'a pas pu être lu"_t, erreur);
