@@ -1,6 +1,7 @@
 #include "exchange/adif3_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "core/text.h"
@@ -12,12 +13,17 @@ namespace {
 constexpr bool Blanc(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 constexpr bool Chiffre(char c) { return c >= '0' && c <= '9'; }
 constexpr char Capitale(char c) { return static_cast<char>(Touche_Majuscule(c)); }
-constexpr bool De_Nom(char c) {
-  return c == '_' || c == '-' || Chiffre(c) || (Capitale(c) >= 'A' && Capitale(c) <= 'Z');
-}
+/// The characters that names are made of.
+constexpr std::array<bool, 256> kDe_Nom = [] {
+  std::array<bool, 256> de_nom{};
+  for (const char c : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-"))
+    de_nom[static_cast<unsigned char>(c)] = true;
+  return de_nom;
+}();
+constexpr bool De_Nom(char c) { return kDe_Nom[static_cast<unsigned char>(c)]; }
 
 bool Meme_Nom(std::string_view lu, std::string_view nom) {
-  return lu.size() == nom.size() &&
+  return lu.size() == nom.size() && Capitale(lu.front()) == nom.front() &&
          std::equal(lu.begin(), lu.end(), nom.begin(), [](char a, char b) { return Capitale(a) == b; });
 }
 

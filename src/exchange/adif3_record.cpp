@@ -1,7 +1,6 @@
 #include "exchange/adif3_record.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <initializer_list>
 #include <optional>
@@ -16,14 +15,6 @@
 namespace vorelio {
 
 namespace {
-
-std::optional<double> Nombre_ADIF(std::string texte) {
-  std::replace(texte.begin(), texte.end(), ',', '.');
-  double nombre = 0;
-  const auto [fin, erreur] = std::from_chars(texte.data(), texte.data() + texte.size(), nombre);
-  if (erreur != std::errc{} || fin == texte.data() || !std::isfinite(nombre)) return std::nullopt;
-  return nombre;
-}
 
 /// One record on its way to a log line.
 class Lecture {
@@ -80,7 +71,7 @@ class Lecture {
     const Bande_ADIF3* bande = Bande_De_Nom(nom);
     if (!bande && nom.empty() && frequence.empty()) throw Refus{"Bande absente"};
     if (!bande)
-      if (const auto mhz = Nombre_ADIF(frequence)) bande = Bande_De_Frequence(*mhz);
+      if (const auto mhz = Nombre_Lu(frequence)) bande = Bande_De_Frequence(*mhz);
     if (!bande && !frequence.empty()) throw Refus{"Fréquence hors des bandes du carnet : "_t + frequence};
     if (!bande || bande->bande.empty())
       throw Refus{"Bande que le carnet n'a pas : " + (bande ? std::string(bande->nom) : nom)};
@@ -119,7 +110,7 @@ class Lecture {
   }
 
   std::string Entier_Jusqu_A(std::string_view nom, double maximum) {
-    const auto nombre = Nombre_ADIF(Lit(nom));
+    const auto nombre = Nombre_Lu(Lit(nom));
     return nombre && *nombre >= 0 && std::round(*nombre) <= maximum ? Texte_Nombre(std::round(*nombre)) : "";
   }
 

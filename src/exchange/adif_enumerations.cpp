@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string>
+#include <unordered_map>
 
 #include "core/bands.h"
 #include "core/log_line.h"
@@ -48,44 +50,44 @@ constexpr Bande_ADIF3 kBandes_Norme[] = {
     {"SUBMM", 300000, 7500000, ""},
 };
 
-/// The submodes of each mode, a blank around each. In names with blanks of their own these are "_".
+/// The submodes of each mode, a blank between them. In names with blanks of their own these are "_".
 struct Famille {
   std::string_view mode, sous_modes;
 };
 
 constexpr Famille kFamilles[] = {
-    {"CHIP", " CHIP64 CHIP128 "},
-    {"CW", " PCW "},
-    {"DIGITALVOICE", " C4FM DMR DSTAR FREEDV M17 "},
-    {"DOMINO", " DOM-M DOM4 DOM5 DOM8 DOM11 DOM16 DOM22 DOM44 DOM88 DOMINOEX DOMINOF "},
-    {"DYNAMIC", " VARA_HF VARA_SATELLITE VARA_FM_1200 VARA_FM_9600 "},
-    {"HELL", " FMHELL FSKHELL HELL80 HELLX5 HELLX9 HFSK PSKHELL SLOWHELL "},
-    {"ISCAT", " ISCAT-A ISCAT-B "},
-    {"JT4", " JT4A JT4B JT4C JT4D JT4E JT4F JT4G "},
+    {"CHIP", "CHIP64 CHIP128"},
+    {"CW", "PCW"},
+    {"DIGITALVOICE", "C4FM DMR DSTAR FREEDV M17"},
+    {"DOMINO", "DOM-M DOM4 DOM5 DOM8 DOM11 DOM16 DOM22 DOM44 DOM88 DOMINOEX DOMINOF"},
+    {"DYNAMIC", "VARA_HF VARA_SATELLITE VARA_FM_1200 VARA_FM_9600"},
+    {"HELL", "FMHELL FSKHELL HELL80 HELLX5 HELLX9 HFSK PSKHELL SLOWHELL"},
+    {"ISCAT", "ISCAT-A ISCAT-B"},
+    {"JT4", "JT4A JT4B JT4C JT4D JT4E JT4F JT4G"},
     {"JT9",
-     " JT9-1 JT9-2 JT9-5 JT9-10 JT9-30 JT9A JT9B JT9C JT9D JT9E JT9E_FAST JT9F JT9F_FAST JT9G JT9G_FAST JT9H "
-     "JT9H_FAST "},
-    {"JT65", " JT65A JT65B JT65B2 JT65C JT65C2 "},
+     "JT9-1 JT9-2 JT9-5 JT9-10 JT9-30 JT9A JT9B JT9C JT9D JT9E JT9E_FAST JT9F JT9F_FAST JT9G JT9G_FAST JT9H "
+     "JT9H_FAST"},
+    {"JT65", "JT65A JT65B JT65B2 JT65C JT65C2"},
     {"MFSK",
-     " FSQCALL FST4 FST4W FT4 JS8 JTMS MFSK4 MFSK8 MFSK11 MFSK16 MFSK22 MFSK31 MFSK32 MFSK64 MFSK64L MFSK128 "
-     "MFSK128L Q65 "},
-    {"OLIVIA", " OLIVIA_4/125 OLIVIA_4/250 OLIVIA_8/250 OLIVIA_8/500 OLIVIA_16/500 OLIVIA_16/1000 OLIVIA_32/1000 "},
-    {"OPERA", " OPERA-BEACON OPERA-QSO "},
-    {"PAC", " PAC2 PAC3 PAC4 "},
-    {"PAX", " PAX2 "},
+     "FSQCALL FST4 FST4W FT4 JS8 JTMS MFSK4 MFSK8 MFSK11 MFSK16 MFSK22 MFSK31 MFSK32 MFSK64 MFSK64L MFSK128 "
+     "MFSK128L Q65"},
+    {"OLIVIA", "OLIVIA_4/125 OLIVIA_4/250 OLIVIA_8/250 OLIVIA_8/500 OLIVIA_16/500 OLIVIA_16/1000 OLIVIA_32/1000"},
+    {"OPERA", "OPERA-BEACON OPERA-QSO"},
+    {"PAC", "PAC2 PAC3 PAC4"},
+    {"PAX", "PAX2"},
     {"PSK",
-     " 8PSK125 8PSK125F 8PSK125FL 8PSK250 8PSK250F 8PSK250FL 8PSK500 8PSK500F 8PSK1000 8PSK1000F 8PSK1200F "
+     "8PSK125 8PSK125F 8PSK125FL 8PSK250 8PSK250F 8PSK250FL 8PSK500 8PSK500F 8PSK1000 8PSK1000F 8PSK1200F "
      "FSK31 PSK10 PSK31 PSK63 PSK63F PSK63RC10 PSK63RC20 PSK63RC32 PSK63RC4 PSK63RC5 PSK125 PSK125C12 "
      "PSK125RC10 PSK125RC12 PSK125RC16 PSK125RC4 PSK125RC5 PSK250 PSK250C6 PSK250RC2 PSK250RC3 PSK250RC5 "
      "PSK250RC6 PSK250RC7 PSK500 PSK500C2 PSK500C4 PSK500RC2 PSK500RC3 PSK500RC4 PSK800C2 PSK800RC2 PSK1000 "
-     "PSK1000C2 PSK1000RC2 PSKAM10 PSKAM31 PSKAM50 PSKFEC31 QPSK31 QPSK63 QPSK125 QPSK250 QPSK500 SIM31 "},
-    {"QRA64", " QRA64A QRA64B QRA64C QRA64D QRA64E "},
-    {"ROS", " ROS-EME ROS-HF ROS-MF "},
-    {"RTTY", " ASCI "},
-    {"SSB", " LSB USB "},
-    {"THOR", " THOR-M THOR4 THOR5 THOR8 THOR11 THOR16 THOR22 THOR25X4 THOR50X1 THOR50X2 THOR100 "},
-    {"THRB", " THRBX THRBX1 THRBX2 THROB1 THROB2 THROB4 "},
-    {"TOR", " AMTORFEC GTOR NAVTEX SITORB "},
+     "PSK1000C2 PSK1000RC2 PSKAM10 PSKAM31 PSKAM50 PSKFEC31 QPSK31 QPSK63 QPSK125 QPSK250 QPSK500 SIM31"},
+    {"QRA64", "QRA64A QRA64B QRA64C QRA64D QRA64E"},
+    {"ROS", "ROS-EME ROS-HF ROS-MF"},
+    {"RTTY", "ASCI"},
+    {"SSB", "LSB USB"},
+    {"THOR", "THOR-M THOR4 THOR5 THOR8 THOR11 THOR16 THOR22 THOR25X4 THOR50X1 THOR50X2 THOR100"},
+    {"THRB", "THRBX THRBX1 THRBX2 THROB1 THROB2 THROB4"},
+    {"TOR", "AMTORFEC GTOR NAVTEX SITORB"},
 };
 
 /// Modes that the log names otherwise. The first of a pair of equals is the one that is written.
@@ -94,16 +96,25 @@ struct Noms_Mode {
 };
 constexpr Noms_Mode kAutres_Noms[] = {{"PACKET", "PKT"}, {"THROB", "THRB"}};
 
+std::unordered_map<std::string_view, std::string_view> Familles_Par_Sous_Mode() {
+  std::unordered_map<std::string_view, std::string_view> familles;
+  for (const Famille& famille : kFamilles) {
+    std::string_view reste = famille.sous_modes;
+    while (!reste.empty()) {
+      const std::size_t fin = std::min(reste.find(' '), reste.size());
+      familles.emplace(reste.substr(0, fin), famille.mode);
+      reste.remove_prefix(std::min(fin + 1, reste.size()));
+    }
+  }
+  return familles;
+}
+
 /// The mode that a submode belongs to; empty for what is none.
-std::string_view Famille_De(std::string_view sous_mode) {
-  std::string cherche(" ");
-  for (const char c : sous_mode) cherche += c == ' ' ? '_' : c;
-  cherche += ' ';
-  if (cherche.size() < 3) return {};
-  const auto place = std::find_if(std::begin(kFamilles), std::end(kFamilles), [&](const Famille& famille) {
-    return famille.sous_modes.find(cherche) != std::string_view::npos;
-  });
-  return place == std::end(kFamilles) ? std::string_view{} : place->mode;
+std::string_view Famille_De(std::string sous_mode) {
+  static const auto kPar_Sous_Mode = Familles_Par_Sous_Mode();
+  std::replace(sous_mode.begin(), sous_mode.end(), ' ', '_');
+  const auto place = kPar_Sous_Mode.find(sous_mode);
+  return place == kPar_Sous_Mode.end() ? std::string_view{} : place->second;
 }
 
 std::string_view Nom_Du_Log(std::string_view mode) {

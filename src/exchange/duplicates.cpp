@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "core/log_line.h"
 
@@ -43,6 +44,14 @@ bool Meme_Texte_De_Debut(std::string_view a, std::string_view b) {
   return Meme(Lit_Log(a, champs::Debut_A), Lit_Log(b, champs::Debut_A));
 }
 
+std::size_t Empreinte_Champs(std::string_view ligne) {
+  std::uint64_t empreinte = 0xCBF29CE484222325U;
+  for (const Champ& champ : kMemes)
+    for (const char c : Lit_Log(ligne, champ))
+      empreinte = (empreinte ^ static_cast<unsigned char>(Capitale(c))) * 0x100000001B3U;
+  return static_cast<std::size_t>(empreinte);
+}
+
 }  // namespace
 
 bool Est_Double(std::string_view ligne_a, std::string_view ligne_b) {
@@ -53,23 +62,18 @@ bool Est_Double(std::string_view ligne_a, std::string_view ligne_b) {
 }
 
 bool Index_Doubles::Cle::operator==(const Cle& autre) const {
-  return minute == autre.minute && Memes_Champs(ligne, autre.ligne) &&
+  return minute == autre.minute && empreinte == autre.empreinte && Memes_Champs(ligne, autre.ligne) &&
          (minute >= 0 || Meme_Texte_De_Debut(ligne, autre.ligne));
 }
 
-std::size_t Index_Doubles::Empreinte::operator()(const Cle& cle) const {
-  std::uint64_t empreinte = 0xCBF29CE484222325U + static_cast<std::uint64_t>(cle.minute + 1);
-  for (const Champ& champ : kMemes)
-    for (const char c : Lit_Log(cle.ligne, champ))
-      empreinte = (empreinte ^ static_cast<unsigned char>(Capitale(c))) * 0x100000001B3U;
-  return empreinte;
+void Index_Doubles::Ajoute(std::string_view ligne) {
+  lignes_.try_emplace({ligne, Empreinte_Champs(ligne), Minute(ligne)}, nombre_++);
 }
 
-void Index_Doubles::Ajoute(std::string_view ligne) { lignes_.try_emplace({ligne, Minute(ligne)}, nombre_++); }
-
 std::optional<std::size_t> Index_Doubles::Cherche(std::string_view ligne) const {
+  const std::size_t empreinte = Empreinte_Champs(ligne);
   const auto a_la_minute = [&](int minute) -> std::optional<std::size_t> {
-    const auto place = lignes_.find({ligne, minute});
+    const auto place = lignes_.find({ligne, empreinte, minute});
     return place == lignes_.end() ? std::nullopt : std::optional(place->second);
   };
   const int minute = Minute(ligne);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
@@ -29,11 +28,12 @@ class Index_Doubles {
   /// A line by what makes it a double of another, its start to the minute.
   struct Cle {
     std::string_view ligne;
-    int minute;  ///< Of the day; -1: the text of the start counts.
+    std::size_t empreinte;  ///< Of what must be the same.
+    int minute;             ///< Of the day; -1: the text of the start counts.
     bool operator==(const Cle& autre) const;
   };
   struct Empreinte {
-    std::size_t operator()(const Cle& cle) const;
+    std::size_t operator()(const Cle& cle) const { return cle.empreinte + static_cast<std::size_t>(cle.minute); }
   };
 
   std::unordered_map<Cle, std::size_t, Empreinte> lignes_;

@@ -79,7 +79,7 @@ std::string Serree(std::string_view texte) {
 
 /// MHz of "432MHZ" or "1.3GHZ". Without a unit, numbers too small for VHF are gigahertz.
 double Megahertz(const std::string& serree) {
-  const double nombre = Valeur(serree);
+  const double nombre = Nombre_Lu(serree).value_or(0);
   if (serree.find("GHZ") != std::string::npos) return nombre * 1000;
   if (serree.find("MHZ") != std::string::npos) return nombre;
   return nombre < 50 ? nombre * 1000 : nombre;
@@ -178,7 +178,7 @@ class Lecture_EDI {
     if (bande_lue_.empty()) throw Refus{"Bande absente"};
     if (bande_.empty()) throw Refus{"Bande que le carnet n'a pas : " + bande_lue_};
     qso.Bande_A = bande_;
-    en_cours.Pose(&Champs_QSO::Mode_A, champs::Mode_A, Mode_EDI(champs[kMode]));
+    en_cours.Pose(&Champs_QSO::Mode_A, champs::Mode_A, Mode(champs[kMode]));
     en_cours.Pose(&Champs_QSO::RSTE_A, champs::RSTE_A, Rapport_Et_Numero(champs[kRST_Envoye], champs[kNumero_Envoye]));
     en_cours.Pose(&Champs_QSO::RSTR_A, champs::RSTR_A, Rapport_Et_Numero(champs[kRST_Recu], champs[kNumero_Recu]));
     qso.Depart_A = Departement_Francais(champs[kEchange], qso.Indicatif_A, contexte_);
@@ -186,10 +186,13 @@ class Lecture_EDI {
     en_cours.Pose_Locator(champs[kLocator], ici_.empty() ? Locator_Six(contexte_.locator) : ici_,
                           Bande_HF(qso.Bande_A));
     // A point is a kilometre; a contact that doesn't count has none.
-    if (qso.Distance_A.empty() && Valeur(champs[kPoints]) >= 1 && Valeur(champs[kPoints]) <= 99999)
-      qso.Distance_A = Texte_Nombre(std::round(Valeur(champs[kPoints])));
+    const double points = Nombre_Lu(champs[kPoints]).value_or(0);
+    if (qso.Distance_A.empty() && points >= 1 && points < 99999.5) qso.Distance_A = Texte_Nombre(std::round(points));
     qso.Activ_A = "0";
   }
+
+  /// Of a code; some programs write the mode itself.
+  static std::string Mode(const std::string& code) { return code.size() > 1 ? Majuscules(code) : Mode_EDI(code); }
 
   /// The year has two digits, as the log's.
   static std::string Date_Entiere(const std::string& date) {

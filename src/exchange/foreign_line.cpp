@@ -1,7 +1,9 @@
 #include "exchange/foreign_line.h"
 
 #include <algorithm>
+#include <charconv>
 #include <chrono>
+#include <cmath>
 
 #include "core/errors.h"
 #include "core/text.h"
@@ -88,6 +90,14 @@ std::string Locator_Six(std::string_view locator) {
   for (std::size_t i = 0; i < kLocator_Long; ++i)
     if (six[i] < kBornes[i][0] || six[i] > kBornes[i][1]) return {};
   return six;
+}
+
+std::optional<double> Nombre_Lu(std::string texte) {
+  std::replace(texte.begin(), texte.end(), ',', '.');
+  double nombre = 0;
+  const auto [fin, erreur] = std::from_chars(texte.data(), texte.data() + texte.size(), nombre);
+  if (erreur != std::errc{} || fin == texte.data() || !std::isfinite(nombre)) return std::nullopt;
+  return nombre;
 }
 
 std::string Rapport_Et_Numero(std::string rapport, std::string numero) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,9 @@ std::string Heure_Du_Log(std::string_view heure, std::string_view quoi);
 
 /// Six characters in capitals from a locator of at least four, "LL" behind one of four; empty for what is none.
 std::string Locator_Six(std::string_view locator);
+
+/// The number at the head of a text, a comma being a point; nothing without a finite one.
+std::optional<double> Nombre_Lu(std::string texte);
 
 /// A report and the number behind it, which has three digits at least: "59" and "1" are "59001".
 std::string Rapport_Et_Numero(std::string rapport, std::string numero);

@@ -84,18 +84,20 @@ std::string Autre_Fichier(std::string_view octets) {
   const auto commence = [&](std::string_view debut) { return octets.starts_with(debut); };
   if (octets.size() > kTaille_Max_Journal) return Journal_Trop_Long();
   if (octets.find_first_not_of(" \t\r\n\x1A") == std::string_view::npos) return "Ce fichier est vide."_t;
-  if (commence("\xFF\xFE") || commence("\xFE\xFF"))
+  // Own odd lines may hold a zero byte; only a text of two bytes a character, or no text at all, has many.
+  const std::string_view debut = octets.substr(0, 4096);
+  const bool zeros = std::count(debut.begin(), debut.end(), '\0') * 4 > static_cast<std::ptrdiff_t>(debut.size());
+  if (commence("\xFF\xFE") || commence("\xFE\xFF") || (zeros && debut.find('<') != std::string_view::npos))
     return "Ce fichier est en UTF-16 : enregistrez-le en UTF-8, puis recommencez."_t;
+  if (zeros) return "Ce fichier n'est pas un texte : ce n'est ni un journal ADIF ni un journal EDI."_t;
   if (commence("%PDF")) return "Ce fichier est un document PDF, pas un journal."_t;
   if (commence("PK\x03\x04")) return "Ce fichier est une archive ZIP : extrayez-en le journal, puis recommencez."_t;
   if (commence("START-OF-LOG"))
     return "Ce fichier est un journal Cabrillo : exportez-le en ADIF de l'autre logiciel."_t;
-  const std::string debut = Majuscules(octets.substr(0, 1000));
-  if (debut.find("<?XML") != std::string::npos || debut.find("<ADX>") != std::string::npos)
+  const auto texte = debut.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
+  const std::string balise = Majuscules(debut.substr(std::min(texte, debut.size()), 5));
+  if (balise == "<?XML" || balise == "<ADX>")
     return "Ce fichier est en XML (ADX) : exportez le journal en ADI de l'autre logiciel."_t;
-  constexpr std::size_t kDebut = 4096;
-  if (octets.substr(0, kDebut).find('\0') != std::string_view::npos)
-    return "Ce fichier n'est pas un texte : ce n'est ni un journal ADIF ni un journal EDI."_t;
   return {};
 }
 

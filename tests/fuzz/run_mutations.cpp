@@ -1,5 +1,6 @@
-// Feeds an importer, or the reader of the cluster page, with random and mutated files for some time, without a fuzzer:
-//   import_fuzz adif|edi|native|cluster SECONDS [SEED]
+// Feeds an importer, a reader of logs or of the cluster page with random and mutated files for some time, without a
+// fuzzer:
+//   import_fuzz adif|edi|native|adif3|edi_journal|cluster SECONDS [SEED]
 // Ends with an abort at the first breach; prints how the imports have ended.
 
 #include <chrono>
@@ -15,7 +16,7 @@ int main(int argc, char** argv) {
   using namespace vorelio::tests;
   const FuzzTarget target = argc > 2 ? TargetOf(argv[1]) : FuzzTarget{};
   if (!target.run) {
-    std::fprintf(stderr, "usage: import_fuzz adif|edi|native|cluster SECONDS [SEED]\n");
+    std::fprintf(stderr, "usage: import_fuzz adif|edi|native|adif3|edi_journal|cluster SECONDS [SEED]\n");
     return 2;
   }
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(std::atoi(argv[2]));

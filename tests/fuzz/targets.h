@@ -7,6 +7,7 @@
 
 #include "fuzz/cluster_page_target.h"
 #include "fuzz/import_target.h"
+#include "fuzz/journal_target.h"
 
 namespace vorelio::tests {
 
@@ -17,7 +18,8 @@ struct FuzzTarget {
   std::string seed;
 };
 
-/// An importer or the reader of the cluster page: "adif", "edi", "native", "cluster"; nothing to run for another name.
+/// An importer ("adif", "edi", "native"), a reader of whole logs ("adif3", "edi_journal"), or the reader of the cluster
+/// page ("cluster"); nothing to run for another name.
 inline FuzzTarget TargetOf(std::string_view name) {
   const auto importing = [](const ImportTarget::Importer& importer) {
     const auto target = std::make_shared<ImportTarget>(importer);
@@ -27,6 +29,8 @@ inline FuzzTarget TargetOf(std::string_view name) {
   if (name == "edi") return importing(ImportTarget::Edi());
   if (name == "native") return importing(ImportTarget::Native());
   if (name == "cluster") return {RunClusterPage, ClusterPageSeed()};
+  if (name == "adif3") return {RunJournal, Adif3Seed()};
+  if (name == "edi_journal") return {RunJournal, EdiJournalSeed()};
   return {};
 }
 
