@@ -2,6 +2,7 @@
 
 #include "core/calendar.h"
 #include "core/loading_window.h"
+#include "core/log_guard.h"
 #include "core/log_line.h"
 #include "core/main_window.h"
 #include "core/text.h"
@@ -16,7 +17,7 @@ void Reecrit_Log(Programme& programme, const ListBox& liste) {
   std::string texte;
   texte.reserve(static_cast<std::size_t>(liste.Count()) * (kLargeur_Ligne + kFin_De_Ligne.size()));
   for (const std::string& element : liste.Items()) texte.append(Partie_Log(element)).append(kFin_De_Ligne);
-  programme.Disque().WriteAll(programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
+  Remplace_Log(programme, programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
 }
 
 /// Moves the rows of the working copy into the list.
@@ -28,6 +29,18 @@ void Reprend_Copie(Fenetre_Principale& principale) {
 
 void Ajoute_Numerotee(ListBox& liste, int numero, std::string_view ligne) {
   liste.AddItem(Colonne_Numero(numero).append(ligne));
+}
+
+/// The log into the main window's list, which from then on stands for the file.
+void Lit_Liste_QSO(Programme& programme, const std::string& log, std::string_view station) {
+  auto& contexte = programme.contexte;
+  Oublie_Log(programme, log);
+  contexte.Log_Non_Lu = log;
+  // As it stood before it was read: what comes in meanwhile isn't in the list.
+  const auto empreinte = programme.Disque().Stamp(log);
+  Liste_Log(programme, station, programme.Principale().Journal());
+  if (empreinte) contexte.Empreintes_Logs[log] = *empreinte;
+  contexte.Log_Non_Lu.clear();
 }
 
 }  // namespace
@@ -51,7 +64,7 @@ void Charge_Log(Programme& programme, std::string_view station) {
   auto& chargement = programme.Fenetre<Chargement>();
   principale.Hide();
   chargement.Show();
-  Liste_Log(programme, station, principale.Journal());
+  Lit_Liste_QSO(programme, programme.Chemin_Log(station), station);
   programme.contexte.Nb_QSO = principale.Journal().Count();
   principale.Annonce_Numero(programme.contexte.Nb_QSO + 1);
   chargement.Hide();
@@ -59,8 +72,11 @@ void Charge_Log(Programme& programme, std::string_view station) {
 }
 
 void Ajoute_Ligne_Log(Programme& programme, std::string_view ligne) {
-  programme.Disque().Append(programme.Chemin_Log(programme.contexte.Station_Indicatif),
-                            std::string(ligne).append(kFin_De_Ligne));
+  const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
+  // What others have added since stays unknown: the list hasn't got it.
+  const bool connu = Log_Connu(programme, log);
+  programme.Disque().AppendLine(log, ligne);
+  if (connu) Note_Log(programme, log);
 }
 
 void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::string_view nouvelle) {
@@ -74,6 +90,9 @@ void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::stri
 
 void Insere_QSO_Log(Programme& programme, std::string_view ligne) {
   auto& principale = programme.Principale();
+  // The list of a log that couldn't be read is empty: the contact must not be all that is left of it.
+  const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
+  if (programme.contexte.Log_Non_Lu == log) Lit_Liste_QSO(programme, log, programme.contexte.Station_Indicatif);
   const auto moment = [](std::string_view qso) {
     return Moment_QSO(Champ_Log(qso, champs::Date_A), Champ_Log(qso, champs::Debut_A));
   };
@@ -93,19 +112,6 @@ void Insere_QSO_Log(Programme& programme, std::string_view ligne) {
   if (!insere) Ajoute_Numerotee(principale.Copie_Journal(), numero, ligne);
   Reprend_Copie(principale);
   Reecrit_Log(programme, principale.Journal());
-}
-
-std::string Garde_Log(Programme& programme) {
-  const Instant moment = programme.plateforme.clock.Local();
-  std::string nom = programme.contexte.Station_Indicatif + ".log.garde-" + std::to_string(moment.year);
-  nom += Deux_Chiffres(moment.month) + Deux_Chiffres(moment.day) + "-";
-  nom += Deux_Chiffres(moment.hour) + Deux_Chiffres(moment.minute) + Deux_Chiffres(moment.second);
-  programme.Disque().Copy(programme.Chemin_Log(programme.contexte.Station_Indicatif), programme.Chemin(nom));
-  return nom;
-}
-
-void Remplace_Log(Programme& programme, std::string_view texte) {
-  programme.Disque().WriteAll(programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
 }
 
 void Efface_Ligne_Log(Programme& programme) {

@@ -31,13 +31,6 @@ void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::stri
 /// or time that is none, in the new line or in an old one before its place, is run-time error 13.
 void Insere_QSO_Log(Programme& programme, std::string_view ligne);
 
-/// Keeps a copy of the station's log beside it, named after the moment: "F6ABC.log.garde-20240512-183000". Gives the
-/// name.
-std::string Garde_Log(Programme& programme);
-
-/// Makes `texte` the station's log in one step; the list is the caller's.
-void Remplace_Log(Programme& programme, std::string_view texte);
-
 /// Removes the contact selected in `Liste_QSO`, renumbers and rewrites. `Nb_QSO` stays as it is.
 void Efface_Ligne_Log(Programme& programme);
 

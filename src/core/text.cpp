@@ -109,6 +109,14 @@ std::string Majuscules(std::string_view texte) {
   return haut;
 }
 
+std::string Forme_Fichier(std::string_view texte) {
+  std::string nom(texte);
+  for (char& octet : nom)
+    if (octet == '/' || octet == '\\' || octet == ':' || static_cast<unsigned char>(octet) < ' ') octet = '_';
+  if (nom.starts_with('.')) nom.front() = '_';
+  return nom;
+}
+
 // --- Numbers --------------------------------------------------------------------------------------------------------
 
 namespace {

@@ -8,6 +8,7 @@
 #include "core/clock_text.h"
 #include "core/errors.h"
 #include "core/log_file.h"
+#include "core/log_guard.h"
 #include "core/main_window.h"
 #include "core/text.h"
 #include "exchange/adif_export.h"
@@ -161,8 +162,11 @@ void Import_Journal::Importer_Click() {
     if (ajoutes > 0 || reporte) {
       const auto nouveau = Nouveau_Log(log);
       if (!nouveau) return;
-      garde = Garde_Log(programme_);
-      Remplace_Log(programme_, *nouveau);
+      const std::string chemin = programme_.Chemin_Log(programme_.contexte.Station_Indicatif);
+      garde = Garde_Log(programme_, chemin);
+      // It has been kept: once is enough.
+      Note_Log(programme_, chemin);
+      Remplace_Log(programme_, chemin, *nouveau);
     }
   } catch (const Erreur_Execution& erreur) {
     return programme_.Message(Phrase_Erreur("Rien n'a été importé"_t, erreur));
@@ -193,7 +197,7 @@ void Import_Journal::Termine_Import(const std::string& garde, std::size_t ajoute
     });
   }
   if (!garde.empty()) {
-    dit += " ; log d'avant : " + garde;
+    dit += " ; log d'avant : " + Nom_De_Fichier(programme_, garde);
     essaie("Les QSO sont dans le log, mais les tableaux n'ont pas pu être refaits (menu Outils)"_t,
            [&] { Refait_Pointages(programme_); });
   }
