@@ -148,13 +148,14 @@ std::optional<std::string> Import_Journal::Nouveau_Log(std::string_view log) {
 
 void Import_Journal::Importer_Click() {
   std::string garde;
-  std::size_t ajoutes = static_cast<std::size_t>(Liste_Apercu.Count());
+  const std::size_t ajoutes = static_cast<std::size_t>(Liste_Apercu.Count());
   const bool reporte = Confirmations.Checked() && plan_->Confirmes() > 0;
   try {
     const std::string log = Texte_Log(programme_);
     if (Empreinte(log) != empreinte_) {
       // Somebody else has written it: what was shown no longer holds.
       const std::string probleme = Lit();
+      if (Unloaded()) return;
       return programme_.Message(probleme.empty() ? "Le log a changé depuis la lecture du fichier. Les comptes ont été "
                                                    "refaits : vérifiez-les avant d'importer."_t
                                                  : probleme);
@@ -191,7 +192,7 @@ void Import_Journal::Termine_Import(const std::string& garde, std::size_t ajoute
   if (nb_refuses_ > 0) {
     dit += ", " + Compte(nb_refuses_, "refusé"_t, "refusés"_t);
     essaie("Les fiches refusées n'ont pas pu être écrites"_t, [&] {
-      const std::string fichier = Nom_Fichier_Refuses(fichier_);
+      const std::string fichier = Nom_Fichier_Refuses(programme_, fichier_);
       programme_.Disque().WriteAll(fichier, refuses_);
       dit += " (" + Nom_De_Fichier(programme_, fichier) + ")";
     });

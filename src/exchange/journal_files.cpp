@@ -1,5 +1,6 @@
 #include "exchange/journal_files.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -32,9 +33,10 @@ std::string Nom_De_Fichier(const Programme& programme, std::string_view chemin) 
   return std::string(chemin.substr(chemin.find_last_of(programme.plateforme.separator) + 1));
 }
 
-std::string Nom_Fichier_Refuses(const std::string& fichier) {
-  const std::size_t point = fichier.find_last_of('.');
-  return fichier.substr(0, point) + "-refuses" + fichier.substr(point);
+std::string Nom_Fichier_Refuses(const Programme& programme, std::string_view fichier) {
+  const std::string nom = Nom_De_Fichier(programme, fichier);
+  const std::string_view fin = std::string_view(nom).substr(std::min(nom.find_last_of('.'), nom.size()));
+  return std::string(fichier.substr(0, fichier.size() - fin.size())).append("-refuses").append(fin);
 }
 
 std::string Phrase_Erreur(const std::string& phrase, const Erreur_Execution& erreur) {

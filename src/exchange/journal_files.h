@@ -22,7 +22,7 @@ bool Pret_Pour_Un_Journal(Programme& programme);
 std::string Nom_De_Fichier(const Programme& programme, std::string_view chemin);
 
 /// Where the refused records of a file go: "in-refuses.adi" beside "in.adi".
-std::string Nom_Fichier_Refuses(const std::string& fichier);
+std::string Nom_Fichier_Refuses(const Programme& programme, std::string_view fichier);
 
 /// `phrase`, and for what reason, in words for whoever has chosen the file.
 std::string Phrase_Erreur(const std::string& phrase, const Erreur_Execution& erreur);
