@@ -35,6 +35,8 @@ std::size_t Empreinte(std::string_view texte) { return std::hash<std::string_vie
 /// The window was closed while the file was being read.
 class Abandon {};
 
+void Montre_Nombre(Label& label, std::size_t nombre) { label.SetCaption(std::to_string(nombre)); }
+
 /// Place, callsign and reason in the columns of their titles.
 std::string Ligne_Refus(const QSO_Refuse& refus) {
   constexpr std::size_t kPlace = 28, kIndicatif = 14;
@@ -81,7 +83,11 @@ std::string Import_Journal::Lit() {
     Journal_Lu journal = Lit_Journal(octets, Contexte_Du_Journal(programme_),
                                      [this](std::size_t fait, std::size_t total) { Montre_Avance(fait, total); });
     if (!journal.illisible.empty()) return journal.illisible + "\r\n" + fichier_;
-    Compare(std::move(journal));
+    Montre_Fichier(journal);
+    // Long files are longer than what becomes of them: they don't stay in memory beside it.
+    journal.refuses.clear();
+    std::string().swap(octets);
+    Compare(std::move(journal.qso));
   } catch (const Erreur_Execution& erreur) {
     return Phrase_Erreur("Le log de la station n'a pas pu être lu"_t, erreur);
   } catch (const Abandon&) {
@@ -97,30 +103,29 @@ void Import_Journal::Montre_Avance(std::size_t fait, std::size_t total) {
 
 // --- Showing --------------------------------------------------------------------------------------------------------
 
-void Import_Journal::Compare(Journal_Lu journal) {
+void Import_Journal::Montre_Fichier(const Journal_Lu& journal) {
+  SetTitle(kTitre + std::string(" : ") + Nom_De_Fichier(programme_, fichier_));
+  Format.SetCaption(journal.format);
+  Montre_Nombre(Nb_Lus, journal.Lus());
+  nb_refuses_ = journal.refuses.size();
+  Montre_Nombre(Nb_Refuses, nb_refuses_);
+  refuses_ = Fichier_Refuses(journal);
+  std::vector<std::string> lignes;
+  for (const QSO_Refuse& refuse : journal.refuses) lignes.push_back(Ligne_Refus(refuse));
+  Liste_Refus.ClearItems();
+  Liste_Refus.AddItems(std::move(lignes));
+}
+
+void Import_Journal::Compare(std::vector<QSO_Lu> qso) {
   const std::string log = Texte_Log(programme_);
   empreinte_ = Empreinte(log);
   const std::string aujourdhui =
       programme_.Principale().Saisie_En_UTC() ? Date_UTC(programme_) : Date_Locale(programme_);
-  const std::size_t lus = journal.Lus();
-  plan_.emplace(std::move(journal.qso), log, aujourdhui);
-  nb_refuses_ = journal.refuses.size();
-  refuses_ = Fichier_Refuses(journal);
-
-  Format.SetCaption(journal.format);
-  SetTitle(kTitre + std::string(" : ") + Nom_De_Fichier(programme_, fichier_));
-  const auto montre = [](Label& label, std::size_t nombre) { label.SetCaption(std::to_string(nombre)); };
-  montre(Nb_Lus, lus);
-  montre(Nb_Nouveaux, plan_->Nouveaux());
-  montre(Nb_Doubles, plan_->Doubles());
-  montre(Nb_Refuses, nb_refuses_);
-  montre(Nb_Confirmes, plan_->Confirmes());
-  montre(Nb_Coupes, plan_->Coupes());
-
-  std::vector<std::string> refus;
-  for (const QSO_Refuse& refuse : journal.refuses) refus.push_back(Ligne_Refus(refuse));
-  Liste_Refus.ClearItems();
-  Liste_Refus.AddItems(std::move(refus));
+  plan_.emplace(std::move(qso), log, aujourdhui);
+  Montre_Nombre(Nb_Nouveaux, plan_->Nouveaux());
+  Montre_Nombre(Nb_Doubles, plan_->Doubles());
+  Montre_Nombre(Nb_Confirmes, plan_->Confirmes());
+  Montre_Nombre(Nb_Coupes, plan_->Coupes());
   Montre_Apercu();
   Avance.SetVisible(false);
   EnableAll({&Doubles, &Confirmations, &Importer}, true);
@@ -135,15 +140,25 @@ void Import_Journal::Montre_Apercu() {
 
 // --- Importing ------------------------------------------------------------------------------------------------------
 
-std::optional<std::string> Import_Journal::Nouveau_Log(std::string_view log) {
-  const auto lignes = plan_->Lignes(Doubles.Checked());
-  const std::size_t total = static_cast<std::size_t>(Nombre_De_Lignes(log)) + lignes.size();
-  if (total > kQSO_Max) {
-    programme_.Message("Le log aurait "_t + std::to_string(total) + " QSO, et il peut en compter "_t +
-                       std::to_string(kQSO_Max) + " au plus.\r\nRien n'a été importé."_t);
-    return {};
-  }
-  return Log_Fusionne(log, lignes, Confirmations.Checked() ? plan_->Confirmees() : Lignes_Changees{});
+bool Import_Journal::Trop_De_QSO(std::string_view log) {
+  const std::size_t total =
+      static_cast<std::size_t>(Nombre_De_Lignes(log)) + static_cast<std::size_t>(Liste_Apercu.Count());
+  if (total <= kQSO_Max) return false;
+  programme_.Message("Le log aurait "_t + std::to_string(total) + " QSO, et il peut en compter "_t +
+                     std::to_string(kQSO_Max) + " au plus.\r\nRien n'a été importé."_t);
+  return true;
+}
+
+std::string Import_Journal::Remplace(std::string_view log) {
+  static const Lignes_Changees kAucune;
+  const std::string chemin = programme_.Chemin_Log(programme_.contexte.Station_Indicatif);
+  const std::string nouveau =
+      Log_Fusionne(log, plan_->Lignes(Doubles.Checked()), Confirmations.Checked() ? plan_->Confirmees() : kAucune);
+  const std::string garde = Garde_Log(programme_, chemin);
+  // It has been kept: once is enough.
+  Note_Log(programme_, chemin);
+  Remplace_Log(programme_, chemin, nouveau);
+  return garde;
 }
 
 void Import_Journal::Importer_Click() {
@@ -152,27 +167,25 @@ void Import_Journal::Importer_Click() {
   const bool reporte = Confirmations.Checked() && plan_->Confirmes() > 0;
   try {
     const std::string log = Texte_Log(programme_);
-    if (Empreinte(log) != empreinte_) {
-      // Somebody else has written it: what was shown no longer holds.
-      const std::string probleme = Lit();
-      if (Unloaded()) return;
-      return programme_.Message(probleme.empty() ? "Le log a changé depuis la lecture du fichier. Les comptes ont été "
-                                                   "refaits : vérifiez-les avant d'importer."_t
-                                                 : probleme);
-    }
-    if (ajoutes > 0 || reporte) {
-      const auto nouveau = Nouveau_Log(log);
-      if (!nouveau) return;
-      const std::string chemin = programme_.Chemin_Log(programme_.contexte.Station_Indicatif);
-      garde = Garde_Log(programme_, chemin);
-      // It has been kept: once is enough.
-      Note_Log(programme_, chemin);
-      Remplace_Log(programme_, chemin, *nouveau);
-    }
+    if (Empreinte(log) != empreinte_) return Relit();
+    if (Trop_De_QSO(log)) return;
+    // The preview isn't looked at any more, and it is as large as the log that is made here.
+    Liste_Apercu.ClearItems();
+    if (ajoutes > 0 || reporte) garde = Remplace(log);
   } catch (const Erreur_Execution& erreur) {
+    Montre_Apercu();
     return programme_.Message(Phrase_Erreur("Rien n'a été importé"_t, erreur));
   }
   Termine_Import(garde, ajoutes);
+}
+
+/// Somebody else has written the log: what was shown no longer holds.
+void Import_Journal::Relit() {
+  const std::string probleme = Lit();
+  if (Unloaded()) return;
+  programme_.Message(probleme.empty() ? "Le log a changé depuis la lecture du fichier. Les comptes ont été refaits : "
+                                        "vérifiez-les avant d'importer."_t
+                                      : probleme);
 }
 
 void Import_Journal::Termine_Import(const std::string& garde, std::size_t ajoutes) {
@@ -207,7 +220,6 @@ void Import_Journal::Termine_Import(const std::string& garde, std::size_t ajoute
   if (auto* carte = programme_.Ouverte<QSL>()) carte->Unload();
   if (auto* export_qso = programme_.Ouverte<Exporter_QSO>()) export_qso->Unload();
   plan_.reset();
-  Liste_Apercu.ClearItems();
   Unload();
 
   auto& principale = programme_.Principale();

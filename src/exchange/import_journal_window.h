@@ -2,6 +2,8 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "core/programme.h"
 #include "core/text.h"
@@ -41,11 +43,15 @@ class Import_Journal : public Form {
   /// Reads the file and sets its records against the log. Gives the sentence of a failure.
   std::string Lit();
   void Montre_Avance(std::size_t fait, std::size_t total);
-  void Compare(Journal_Lu journal);
+  void Montre_Fichier(const Journal_Lu& journal);
+  void Compare(std::vector<QSO_Lu> qso);
   void Montre_Apercu();
   void Importer_Click();
-  /// The log with what the window shows; nothing, with the box, if there can be no such log.
-  std::optional<std::string> Nouveau_Log(std::string_view log);
+  void Relit();
+  /// True, with the box, if the log would be longer than its list can number.
+  bool Trop_De_QSO(std::string_view log);
+  /// Gives the path of the copy that was kept.
+  std::string Remplace(std::string_view log);
   void Termine_Import(const std::string& garde, std::size_t ajoutes);
 
   std::string fichier_;
