@@ -131,7 +131,9 @@ TEST_F(ImportJournal, ALogOfMoreThan99999ContactsIsRefused) {
 TEST_F(ImportJournal, ClosingTheWindowWhileItReadsEndsTheReading) {
   std::string bytes;
   for (int i = 0; i < 5000; ++i) bytes += Adif("20030513", "F2NEW");
+  int served = 0;
   windows.OnServe = [&] {
+    ++served;
     if (auto* window = programme->Ouverte<Import_Journal>()) {
       EXPECT_FALSE(window->Importer.Enabled());
       EXPECT_LT(window->Avance.Done(), window->Avance.Total());
@@ -139,6 +141,7 @@ TEST_F(ImportJournal, ClosingTheWindowWhileItReadsEndsTheReading) {
     }
   };
   OpenBytes(bytes, [](Import_Journal&) { FAIL() << "the window waits"; });
+  EXPECT_EQ(served, 1);
   EXPECT_EQ(programme->Ouverte<Import_Journal>(), nullptr);
   EXPECT_TRUE(messages.TakeMessages().empty());
   EXPECT_EQ(disk.Changes(), Lines{});
