@@ -40,6 +40,8 @@ class Fenetre_Principale : public Form {
   virtual void Peint_Departements() = 0;
   /// Tells the count of departments over the grid.
   virtual void Legende_Departements() = 0;
+  /// Paints what the grid shows, departments or squares, and tells their count.
+  virtual void Repeint_Grille() = 0;
 
   // --- Station ---
   /// The callsign as it is shown, with "/".

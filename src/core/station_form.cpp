@@ -10,6 +10,7 @@
 #include "core/loading_window.h"
 #include "core/log_file.h"
 #include "core/main_window.h"
+#include "core/manual.h"
 #include "core/station_files.h"
 #include "core/text.h"
 #include "geo/locator.h"
@@ -66,6 +67,7 @@ Station::Station(Programme& programme)
   New_Locator.KeyPress = [this](int& touche) { New_Locator_KeyPress(touche); };
   Validation.Click = [this] { Validation_Click(); };
   Quitter.Click = [this] { Quitter_Click(); };
+  Autre_Logiciel.Click = [this] { Ouvre_Mode_Emploi(programme_, "venir"); };
 }
 
 void Station::Form_Load() {

@@ -22,6 +22,7 @@ class Station : public Form {
   Label Label5;  ///< What becomes of a "/".
   Button Validation{*this, "Validation", "Validez"};
   Button Quitter{*this, "Quitter", "Quitter"};
+  Button Autre_Logiciel{*this, "Autre_Logiciel", "Venir d'un autre logiciel ?"};  ///< The manual's chapter on it.
 
  private:
   void Liste_Indicatifs_KeyPress(int& touche);

@@ -170,6 +170,10 @@ std::string Texte_Nombre(double nombre) {
 
 std::string Texte_Nombre_Blanc(double nombre) { return (nombre < 0 ? "" : " ") + Texte_Nombre(nombre); }
 
+std::string Compte(std::size_t nombre, std::string_view un, std::string_view plusieurs) {
+  return (std::to_string(nombre) + " ").append(nombre < 2 ? un : plusieurs);
+}
+
 std::string Deux_Chiffres(int nombre) { return (nombre < 10 ? "0" : "") + std::to_string(nombre); }
 
 std::string Texte_Booleen(bool valeur) { return valeur ? "True" : "False"; }

@@ -156,6 +156,9 @@ std::string Texte_Nombre(double nombre);
 /// A number as text, with a blank in front where the sign would stand.
 std::string Texte_Nombre_Blanc(double nombre);
 
+/// How many there are of something: "0 ligne", "1 ligne", "2 lignes".
+std::string Compte(std::size_t nombre, std::string_view un, std::string_view plusieurs);
+
 /// A number from 0 to 99 as two digits.
 std::string Deux_Chiffres(int nombre);
 

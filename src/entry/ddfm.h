@@ -79,10 +79,12 @@ class DDFM : public Fenetre_Principale {
 
   // --- Menus ---
   MenuItem Mnu_Indicatif, Mnu_Val_Sauve, Mnu_Restauration, Mnu_Restau_Activite, Mnu_RAZ_All, Mnu_Quitter;
-  MenuItem Mnu_Import_ADIF{*this, "Mnu_Import_ADIF", "Importer un fichier ADIF"};
-  MenuItem Mnu_Import_EDI{*this, "Mnu_Import_EDI", "Importer un fichier EDI"};
+  MenuItem Mnu_Import_ADIF{*this, "Mnu_Import_ADIF", "Importer un fichier ADIF (un QSO par ligne)"};
+  MenuItem Mnu_Import_EDI{*this, "Mnu_Import_EDI", "Importer un fichier EDI (un QSO par ligne)"};
   MenuItem Mnu_Import_CTF{*this, "Mnu_Import_CTF", "Importer un fichier CTF"};
   MenuItem Mnu_Export_Adif{*this, "Mnu_Export_Adif", "Exporter le fichier log au format ADIF"};
+  MenuItem Mnu_Import_Journal{*this, "Mnu_Import_Journal", "Importer le journal d'un autre logiciel..."};
+  MenuItem Mnu_Export_Journal{*this, "Mnu_Export_Journal", "Exporter pour un autre logiciel..."};
   MenuItem Mnu_Auto_Oui, Mnu_Auto_Non, Mnu_UTC_Oui, Mnu_UTC_Non, Mnu_Sep_Oui, Mnu_Sep_Non, Mnu_Exp_Oui, Mnu_Exp_Non;
   MenuItem Mnu_Nomenclature, Mnu_Prefixe, Mnu_Ajout_Activite;
   MenuItem Mnu_MAJ_Prefixe, Mnu_MAJ_Departement, Mnu_MAJ_Locator;
@@ -108,6 +110,7 @@ class DDFM : public Fenetre_Principale {
   const std::string& Champ_Choisi() const override { return Carre_DDFM.Text(); }
   void Peint_Departements() override;
   void Legende_Departements() override;
+  void Repeint_Grille() override;
   const std::string& Indicatif_Affiche() const override { return I_Station.Caption(); }
   void Affiche_Station() override;
   void Charge_Bande_Mode() override;
@@ -116,7 +119,9 @@ class DDFM : public Fenetre_Principale {
   bool Saisie_En_UTC() const override { return Mnu_UTC_Oui.Checked(); }
   void Attend_Bande() override { Bande_A.SetFocus(); }
   TextField& Champ_Indicatif() override { return Indicatif_A; }
-  void Permet_Imports(bool permis) override { EnableAll({&Mnu_Import_ADIF, &Mnu_Import_EDI, &Mnu_Import_CTF}, permis); }
+  void Permet_Imports(bool permis) override {
+    EnableAll({&Mnu_Import_ADIF, &Mnu_Import_EDI, &Mnu_Import_CTF, &Mnu_Import_Journal}, permis);
+  }
 
  private:
   // Start-up.
@@ -199,7 +204,6 @@ class DDFM : public Fenetre_Principale {
 
   // Menus.
   void Mnu_Date_Automatique(bool automatique);
-  void Mnu_Mode_Emploi_Click();
   void Mnu_Restauration_Click();
   void Mnu_RAZ_All_Click();
   void Mnu_Imprime_Tout_Click();

@@ -40,6 +40,8 @@ void DDFM::Grille_Carres() {
   Frame3.SetCaption(Texte_Nombre_Blanc(contexte.Nb_Contactes) + " moyens carrés dans le carré "_t + Carre_DDFM.Text());
 }
 
+void DDFM::Repeint_Grille() { Option1(1).Set() ? Peint_Departements() : Grille_Carres(); }
+
 bool DDFM::Bande_Sans_Carres() {
   if (!Bande_HF(Bande_DDFM.Text())) return false;
   programme_.Message("Pas de gestion des carrés locator pour les bandes HF"_t);

@@ -1,6 +1,7 @@
 #include "cluster/cluster_window.h"
 #include "core/log_file.h"
 #include "core/log_guard.h"
+#include "core/manual.h"
 #include "core/station_files.h"
 #include "core/station_form.h"
 #include "core/text.h"
@@ -9,6 +10,8 @@
 #include "exchange/award_export_window.h"
 #include "exchange/edi_import.h"
 #include "exchange/export_adif_window.h"
+#include "exchange/import_journal_window.h"
+#include "exchange/journal_export.h"
 #include "exchange/native_import.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup.h"
@@ -61,6 +64,8 @@ void DDFM::Relie_Menus() {
   Mnu_Import_EDI.Click = [this] { Importe_EDI(programme_); };
   Mnu_Import_CTF.Click = [this] { Importe_CTF(programme_); };
   Mnu_Export_Adif.Click = [this] { programme_.Fenetre<Export_Adif>().Show(); };
+  Mnu_Import_Journal.Click = [this] { Importe_Journal(programme_); };
+  Mnu_Export_Journal.Click = [this] { Exporte_Journal(programme_); };
   Exporter.Click = [this] { programme_.Fenetre<Exporter_QSO>().Show(); };
   Command1.Click = [this] { programme_.Fenetre<Cluster>().Show(); };
   Mnu_Quitter.Click = [this] { Unload(); };
@@ -82,7 +87,7 @@ void DDFM::Relie_Menus() {
   Mnu_Print_Activite.Click = [this] { programme_.Fenetre<Print_Activite>().Show(); };
   Mnu_Print_QSL.Click = [this] { programme_.Fenetre<Select_QSO>().Show(); };
   Mnu_Notes.Click = [this] { programme_.Fenetre<Notes>().Show(); };
-  Mnu_Mode_Emploi.Click = [this] { Mnu_Mode_Emploi_Click(); };
+  Mnu_Mode_Emploi.Click = [this] { Ouvre_Mode_Emploi(programme_); };
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
   Mnu_A_Propos.Click = [this] {
     programme_.Message(std::string("Vorelio\r\n   revision ") + Revision_Programme +
@@ -98,13 +103,6 @@ void DDFM::Mnu_Date_Automatique(bool automatique) {
   if (!automatique) return;
   Date_A.Clear();
   Remarques_A.Clear();
-}
-
-void DDFM::Mnu_Mode_Emploi_Click() {
-  const std::string separateur(1, programme_.plateforme.separator);
-  const std::string manuel = programme_.Chemin("manuel" + separateur + "index.html");
-  if (!programme_.plateforme.documents.Open(manuel))
-    programme_.Message("Le mode d'emploi n'a pas pu être ouvert. Il est dans le fichier :\r\n"_t + manuel);
 }
 
 void DDFM::Mnu_Restauration_Click() {

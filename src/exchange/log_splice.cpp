@@ -66,10 +66,6 @@ class Copie_Log {
   std::optional<Moment> precedent_;
 };
 
-std::string Compte(std::size_t nombre, const std::string& un, const std::string& plusieurs) {
-  return std::to_string(nombre) + " " + (nombre < 2 ? un : plusieurs);
-}
-
 /// The log without its markers, from what the work file holds.
 std::string Sans_Reperes(std::string_view lignes) {
   std::string log;

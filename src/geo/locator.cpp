@@ -50,6 +50,22 @@ double Arrondi(double nombre) { return std::floor(nombre + 0.5); }
 
 }  // namespace
 
+int Kilometres(std::string_view locator_1, std::string_view locator_2) {
+  return static_cast<int>(Arrondi(Grand_Cercle(locator_1, locator_2).km));
+}
+
+int Degres(std::string_view locator_1, std::string_view locator_2) {
+  const Arc arc = Grand_Cercle(locator_1, locator_2);
+  const double angle = arc.km / Rayon_Terre;
+  double cosinus = Divise(std::sin(arc.latitude_2) - std::sin(arc.latitude_1) * std::cos(angle),
+                          std::cos(arc.latitude_1) * std::sin(angle));
+  if (cosinus < -1) cosinus = -kPresque_Un;
+  if (cosinus > 1) cosinus = kPresque_Un;
+  double azimut = (Arc_Sinus_Negatif(cosinus) + Demi_Pi) * Rad_Vers_Deg;
+  if (arc.delta > 0) azimut = 360 - azimut;
+  return static_cast<int>(Arrondi(azimut));
+}
+
 void Verifie_Locator(std::string_view locator, int& erreur) {
   Exige_Locator(locator);
   for (std::size_t i = 0; i < kLongueur_Locator; ++i) {
@@ -86,20 +102,11 @@ double Arc_Sinus_Negatif(double x) {
 void Calcule_Distance(Programme& programme, std::string_view locator_1, std::string& locator_2) {
   locator_2 = std::string(Rogne(Coupe(locator_2, 1, static_cast<int>(kLongueur_Locator))));
   if (locator_2.size() < kLongueur_Locator) return;
-  const double km = Arrondi(Grand_Cercle(locator_1, locator_2).km);
-  programme.saisie.Distance_Texte = std::to_string(static_cast<int>(km));
+  programme.saisie.Distance_Texte = std::to_string(Kilometres(locator_1, locator_2));
 }
 
 void Calcule_Azimut(Programme& programme, std::string_view locator_1, std::string_view locator_2) {
-  const Arc arc = Grand_Cercle(locator_1, locator_2);
-  const double angle = arc.km / Rayon_Terre;
-  double cosinus = Divise(std::sin(arc.latitude_2) - std::sin(arc.latitude_1) * std::cos(angle),
-                          std::cos(arc.latitude_1) * std::sin(angle));
-  if (cosinus < -1) cosinus = -kPresque_Un;
-  if (cosinus > 1) cosinus = kPresque_Un;
-  double azimut = (Arc_Sinus_Negatif(cosinus) + Demi_Pi) * Rad_Vers_Deg;
-  if (arc.delta > 0) azimut = 360 - azimut;
-  programme.saisie.Azimut = static_cast<float>(Arrondi(azimut));
+  programme.saisie.Azimut = static_cast<float>(Degres(locator_1, locator_2));
 }
 
 }  // namespace vorelio::Sous_Programmes

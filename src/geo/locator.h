@@ -31,6 +31,11 @@ double Latitude(std::string_view locator);
 /// -arctan(x / sqrt(1 - x²)); with `Demi_Pi` added, the arccosine of x. |x| > 1 is run-time error 5, 1 is error 11.
 double Arc_Sinus_Negatif(double x);
 
+/// Distance in whole kilometres, and azimuth of the second from the first in whole degrees (0 to 360). Of a place and
+/// itself, or the other end of the world, they are run-time errors.
+int Kilometres(std::string_view locator_1, std::string_view locator_2);
+int Degres(std::string_view locator_1, std::string_view locator_2);
+
 /// Sets `Distance_Texte`, whole kilometres. `locator_2` is cut to its trimmed first six characters; shorter than six,
 /// nothing else happens.
 void Calcule_Distance(Programme& programme, std::string_view locator_1, std::string& locator_2);

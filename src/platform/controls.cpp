@@ -167,6 +167,15 @@ void ListControl::Merge(std::vector<std::string> texts) {
   Notify(Property::Items);
 }
 
+void ListControl::Append(std::vector<std::string> texts) {
+  if (texts.empty()) return;
+  if (items_.empty())
+    items_ = std::move(texts);
+  else
+    items_.insert(items_.end(), std::make_move_iterator(texts.begin()), std::make_move_iterator(texts.end()));
+  Notify(Property::Items);
+}
+
 void ListControl::EraseAt(int index) {
   items_.erase(items_.begin() + index);
   if (index == index_) index_ = -1;
@@ -190,10 +199,8 @@ void ListBox::AddItem(std::string_view text) {
 }
 
 void ListBox::AddItems(std::vector<std::string> texts) {
-  if (kind_ != Kind::Sorted) {
-    for (const std::string& text : texts) AddItem(text);
-    return;
-  }
+  if (kind_ == Kind::Checked) checked_.resize(checked_.size() + texts.size());
+  if (kind_ != Kind::Sorted) return Append(std::move(texts));
   std::stable_sort(texts.begin(), texts.end());
   Merge(std::move(texts));
 }
@@ -396,10 +403,11 @@ void Form::Show() {
   Screen().Changed(*this);
 }
 
-void Form::ShowModal() {
+void Form::ShowModal(const std::function<void()>& first) {
   modal_ = true;
   Show();
-  Screen().RunModal(*this);
+  if (first) first();
+  if (visible_) Screen().RunModal(*this);
   modal_ = false;
   programme_.Quitte_Si_Termine();
 }

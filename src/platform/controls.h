@@ -182,6 +182,7 @@ class ListControl : public Control {
   /// Selects without a click.
   virtual void TakeIndex(int index);
   void InsertAt(int index, std::string_view text);
+  void Append(std::vector<std::string> texts);
   /// Puts sorted rows among the sorted ones that are there, after equal ones.
   void Merge(std::vector<std::string> texts);
   void EraseAt(int index);
@@ -202,7 +203,7 @@ class ListBox : public ListControl {
 
   /// Adds a row: at the end, or in a sorted list at its place by the bytes of the text, after equal ones.
   void AddItem(std::string_view text);
-  /// Adds many rows, each as `AddItem` would, in the time of one sort.
+  /// Adds many rows, each as `AddItem` would, in the time of one sort at most.
   void AddItems(std::vector<std::string> texts);
   /// Removes a row; an index outside the list is run-time error 5. The removal of the selected row leaves none
   /// selected; no click.
@@ -461,8 +462,9 @@ class Form {
 
   /// Shows the window and goes on.
   void Show();
-  /// Shows the window and waits until it is hidden or unloaded; the other windows are locked meanwhile.
-  void ShowModal();
+  /// Shows the window, does `first`, and waits until the window is hidden or unloaded; the other windows are locked
+  /// meanwhile.
+  void ShowModal(const std::function<void()>& first = {});
   void Hide();
   /// Runs `Form_Unload`, closes the window and forgets its state: the next use starts anew.
   void Unload();

@@ -164,8 +164,8 @@ class ClipboardService {
 class DocumentService {
  public:
   virtual ~DocumentService() = default;
-  /// False if nothing could show it.
-  virtual bool Open(const std::string& path) = 0;
+  /// Shows it from its beginning, or from a chapter of it if `chapter` names one. False if nothing could show it.
+  virtual bool Open(const std::string& path, const std::string& chapter) = 0;
 };
 
 /// Everything that a run of the program stands on. `directory` is the program's own, where every data file lies,

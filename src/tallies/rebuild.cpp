@@ -77,9 +77,18 @@ std::string Commence(Programme& programme, std::string_view suite) {
   return Texte_Log(programme);
 }
 
-/// Runs the log through the tally, line by line, telling how far it has come.
-void Parcourt(Programme& programme, std::string_view log, std::string_view suite, Table_Pointage::Cle_De cle_de,
-              const std::function<void(Pointage_Tenu&, std::string_view ligne)>& etape) {
+/// Whether a rebuild tells how far it has come, with the events served, or does its work in one go.
+enum class Facon { Montree, Muette };
+
+/// Runs the log through the tally, line by line.
+void Parcourt(Programme& programme, Facon facon, std::string_view log, std::string_view suite,
+              Table_Pointage::Cle_De cle_de, const std::function<void(Pointage_Tenu&, std::string_view ligne)>& etape) {
+  if (facon == Facon::Muette) {
+    Pointage_Tenu pointage(programme, suite, cle_de);
+    return pointage.Pendant([&] {
+      for (Lecteur_Lignes lignes(log); !lignes.Fini();) etape(pointage, lignes.Suivante());
+    });
+  }
   const std::string lecture = "Lecture du log ligne n° "_t;
   const int total = static_cast<int>(std::count(log.begin(), log.end(), '\n'));
   int n = 1;
@@ -115,7 +124,8 @@ std::string Boite(const std::string& nom) {
 class Liste_Absents {
  public:
   Liste_Absents(Programme& programme, const std::string& chemin)
-      : tenue_(programme, [this, &disk = programme.Disque(), chemin] { disk.Append(chemin, std::exchange(texte_, {})); }) {
+      : tenue_(programme,
+               [this, &disk = programme.Disque(), chemin] { disk.Append(chemin, std::exchange(texte_, {})); }) {
     programme.Disque().WriteAll(chemin, "");
   }
 
@@ -168,31 +178,54 @@ bool Compte_Le_Carre(int bande, const Contexte_Station& contexte) {
   return (bande >= kBandes_HF && bande < derniere) || contexte.Bande_Courante == kBandes.back();
 }
 
-}  // namespace
-
-void Refait_Prefixes(Programme& programme) {
-  programme.Message(Boite("Prefixe"));
+void Vide_Absents(Programme& programme) {
   programme.Disque().Copy(programme.Chemin_Modele(".log"), programme.Chemin_Station(kSuite_Absent));
+}
+
+void Reprend_Prefixes(Programme& programme, Facon facon, std::string_view log) {
   // Named after the callsign typed last, not after the station: what was just emptied isn't what gets written, and
   // users have looked for the list under that name.
-  const std::string log = Commence(programme, kSuite_Prefixe);
   Liste_Absents absents(programme, programme.Chemin_De(programme.saisie.Indicatif_Saisi, kSuite_Absent));
   absents.Pendant([&] {
-    Parcourt(programme, log, kSuite_Prefixe, Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
+    Parcourt(programme, facon, log, kSuite_Prefixe, Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
       Reconstruit_Prefixe(pointage, absents, Lit_Log(ligne, champs::Indicatif_A),
                           Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
     });
   });
+}
+
+void Reprend_Departements(Programme& programme, Facon facon, std::string_view log) {
+  const auto etape = [facon](Pointage_Tenu& pointage, std::string_view ligne) {
+    const int bande = Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A));
+    // Nobody is there who could be told of a line that has no column: it has no department to give either.
+    if (bande < 0 && facon == Facon::Muette) return;
+    Reconstruit_Departement(pointage, Majuscules(Lit_Log(ligne, champs::Depart_Court)), bande,
+                            Lit_Log(ligne, champs::Etat_QSL));
+  };
+  Parcourt(programme, facon, log, kSuite_Departement, Cle_Departement, etape);
+}
+
+void Reprend_Locators(Programme& programme, Facon facon, std::string_view log) {
+  Parcourt(programme, facon, log, kSuite_Locator, Cle_Locator, [&](Pointage_Tenu& pointage, std::string_view ligne) {
+    const std::string_view carre = Rogne(Coupe(ligne, champs::Locator_A.colonne, 4));
+    const int bande = Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A));
+    if (!carre.empty() && Compte_Le_Carre(bande, programme.contexte))
+      Reconstruit_Locator(pointage, carre, bande, Lit_Log(ligne, champs::Etat_QSL));
+  });
+}
+
+}  // namespace
+
+void Refait_Prefixes(Programme& programme) {
+  programme.Message(Boite("Prefixe"));
+  Vide_Absents(programme);
+  Reprend_Prefixes(programme, Facon::Montree, Commence(programme, kSuite_Prefixe));
   Annonce_La_Fin(programme);
 }
 
 void Refait_Departements(Programme& programme) {
   programme.Message(Boite("Departement"));
-  const std::string log = Commence(programme, kSuite_Departement);
-  Parcourt(programme, log, kSuite_Departement, Cle_Departement, [](Pointage_Tenu& pointage, std::string_view ligne) {
-    Reconstruit_Departement(pointage, Majuscules(Lit_Log(ligne, champs::Depart_Court)),
-                            Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
-  });
+  Reprend_Departements(programme, Facon::Montree, Commence(programme, kSuite_Departement));
   auto& contexte = programme.contexte;
   contexte.Bande_Grille = contexte.Bande_Courante;
   Affiche_Departements(programme, contexte.Bande_Grille, contexte.Nb_Contactes);
@@ -204,12 +237,7 @@ void Refait_Locators(Programme& programme) {
   programme.Message(Boite("Locator"));
   const std::string log = Commence(programme, kSuite_Locator);
   try {
-    Parcourt(programme, log, kSuite_Locator, Cle_Locator, [&](Pointage_Tenu& pointage, std::string_view ligne) {
-      const std::string_view carre = Rogne(Coupe(ligne, champs::Locator_A.colonne, 4));
-      const int bande = Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A));
-      if (!carre.empty() && Compte_Le_Carre(bande, contexte))
-        Reconstruit_Locator(pointage, carre, bande, Lit_Log(ligne, champs::Etat_QSL));
-    });
+    Reprend_Locators(programme, Facon::Montree, log);
   } catch (const Erreur_Execution& erreur) {
     programme.Message(erreur.Genre() == Erreur::Fichier_Introuvable
                           ? "Fichier FXXXX_Locator.txt Absent du repertoire"
@@ -222,6 +250,13 @@ void Refait_Locators(Programme& programme) {
   contexte.Bande_Grille = contexte.Bande_Courante;
   Affiche_Departements(programme, contexte.Bande_Grille, contexte.Nb_Contactes);
   Annonce_La_Fin(programme);
+}
+
+void Refait_Pointages(Programme& programme) {
+  Vide_Absents(programme);
+  Reprend_Prefixes(programme, Facon::Muette, Commence(programme, kSuite_Prefixe));
+  Reprend_Locators(programme, Facon::Muette, Commence(programme, kSuite_Locator));
+  Reprend_Departements(programme, Facon::Muette, Commence(programme, kSuite_Departement));
 }
 
 }  // namespace vorelio::Sous_Programmes

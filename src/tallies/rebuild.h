@@ -21,4 +21,8 @@ void Refait_Departements(Programme& programme);
 /// before its line.
 void Refait_Locators(Programme& programme);
 
+/// The three of them in one go, without a box or a window and with no event served: behind the replacement of a log. A
+/// line whose band is outside the band table gives no department.
+void Refait_Pointages(Programme& programme);
+
 }  // namespace vorelio::Sous_Programmes

@@ -36,6 +36,13 @@ TEST(Fuzz, FilesOfTheFolder) {
   }
 }
 
+TEST(Fuzz, Journals) {
+  for (const char* name : {"adif3", "edi_journal"}) {
+    auto ends = Ends(name, 1500);
+    for (const int end : {0, 1, 2}) EXPECT_GT(ends[end], 20) << name << " " << end;
+  }
+}
+
 TEST(Fuzz, ClusterPage) {
   auto ends = Ends("cluster", 5000);
   for (const int error : {0, 5, 62}) EXPECT_GT(ends[error], 100) << error;

@@ -1,5 +1,5 @@
 // Feeds a target of targets.h with random and mutated files for some time, without a fuzzer:
-//   import_fuzz adif|edi|native|cluster|log|departments|... SECONDS [SEED]
+//   import_fuzz adif|edi|native|adif3|edi_journal|cluster|log|departments|... SECONDS [SEED]
 // Ends with an abort at the first breach; prints how the imports have ended.
 
 #include <chrono>

@@ -9,6 +9,7 @@
 #include "fuzz/cluster_page_target.h"
 #include "fuzz/folder_target.h"
 #include "fuzz/import_target.h"
+#include "fuzz/journal_target.h"
 
 namespace vorelio::tests {
 
@@ -33,8 +34,8 @@ inline const std::map<std::string, std::string, std::less<>>& FolderFiles() {
   return files;
 }
 
-/// An importer, the reader of the cluster page or a file of the folder: "adif", "edi", "native", "cluster", or one of
-/// `FolderFiles`; nothing to run for another name.
+/// An importer ("adif", "edi", "native"), a reader of whole logs ("adif3", "edi_journal"), the reader of the cluster page
+/// ("cluster"), or a file of the folder, one of `FolderFiles`; nothing to run for another name.
 inline FuzzTarget TargetOf(std::string_view name) {
   const auto importing = [](const ImportTarget::Importer& importer) {
     const auto target = std::make_shared<ImportTarget>(importer);
@@ -48,6 +49,8 @@ inline FuzzTarget TargetOf(std::string_view name) {
     const auto target = std::make_shared<FolderTarget>(file->second);
     return {[target](std::string_view bytes) { return target->Run(bytes); }, FolderTarget::Seeds()[file->second]};
   }
+  if (name == "adif3") return {RunJournal, Adif3Seed()};
+  if (name == "edi_journal") return {RunJournal, EdiJournalSeed()};
   return {};
 }
 

@@ -11,6 +11,7 @@
 #include "entry/ddfm.h"
 #include "exchange/award_export_window.h"
 #include "exchange/export_adif_window.h"
+#include "exchange/import_journal_window.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/notes_window.h"
@@ -51,7 +52,7 @@ inline constexpr Maker kMakersOf[] = {Make<F>...};
 inline constexpr const auto& kForms =
     kMakersOf<DDFM, Chargement, Station, Gestion_Erreur, Ajout_Prefixe, Progression, Statistique_Prefixe,
               Statistique_QSO, Statistiques, Statistique_DFCF, Recherche_Indicatif, Print_Log, Print_Activite,
-              Affiche_Dpt, Fichier_Nomenclature, Ajout_Activite, Delta_QSO, Exporter_QSO, Export_Adif,
+              Affiche_Dpt, Fichier_Nomenclature, Ajout_Activite, Delta_QSO, Exporter_QSO, Export_Adif, Import_Journal,
               Restoration_Activite, QSL, Multi_QSL, Select_QSO, Etiquettes, Notes, Cluster, Memoire_CL, Adresse_Cluster,
               Ports_Serie, Carte, Carte_Acti, Select_Locator, Carte_IM, Carte_IN, Carte_IO, Carte_JM, Carte_JN,
               Carte_JO, Carte_KM, Carte_KN, Carte_KO>;

@@ -1,11 +1,18 @@
 #include "import_measures.h"
 
+#include <malloc.h>
+
+#include <cstdio>
+#include <fstream>
 #include <stdexcept>
 #include <string>
 
 #include "core/log_line.h"
 #include "core/text.h"
+#include "exchange/adif3_writer.h"
 #include "exchange/adif_import.h"
+#include "exchange/import_journal_window.h"
+#include "floors.h"
 #include "log_maker.h"
 #include "station_run.h"
 
@@ -39,6 +46,33 @@ std::string MakeAdif(int records) {
   return adif;
 }
 
+/// From the choice of the file to the reloaded log, through the window that shows what will come in.
+void ImportWhole(StationRun& run, const std::string& file) {
+  run.Dialogs().Choose(file);
+  run.While([](Form& window) { static_cast<Import_Journal&>(window).Importer.UserClick(); });
+  run.Run().Recoit([&] { Sous_Programmes::Importe_Journal(run.Run()); });
+}
+
+/// A log as the whole export gives it to another program.
+std::string MakeWholeExport(int records) {
+  return Fichier_ADIF3(MakeLog(records), {kStation, "JN33BB", {"QSO"}, {}}, "20240512 163000");
+}
+
+void MeasureWhole(std::vector<Row>& rows, int records) {
+  constexpr int kRounds = 3;
+  StationRun run(0, DateMode::Automatic);
+  const std::string file = run.File("_import.adi"), scratch = run.File("_floor.log"), log = MakeLog(records);
+  run.Run().Disque().WriteAll(file, MakeWholeExport(records));
+  const auto floor = [&](Flush flush) { return Work{{}, [&, flush] { Rewrite(scratch, log, flush); }}; };
+  const auto times =
+      Medians(kRounds, {{[&] { run.Run().Disque().WriteAll(run.File(".log"), ""); }, [&] { ImportWhole(run, file); }},
+                        floor(Flush::No),
+                        floor(Flush::Yes)});
+  if (run.Main().Liste_QSO.Count() != records) throw std::runtime_error("the whole import has lost records");
+  rows.push_back({"Import " + std::to_string(records) + " records, shown", 0, times[0], times[1], times[2],
+                  "under 1000 ms", times[0] < 1000});
+}
+
 void Measure(std::vector<Row>& rows, int records, int contacts, double limit) {
   constexpr int kRounds = 3;
   StationRun run(contacts, DateMode::Automatic);
@@ -66,6 +100,28 @@ void Measure(std::vector<Row>& rows, int records, int contacts, double limit) {
 void MeasureImports(std::vector<Row>& rows) {
   Measure(rows, 10000, 10000, 400);
   Measure(rows, 99999, 0, 4000);
+  MeasureWhole(rows, kFull_Log);
+}
+
+int ImportForMemory() {
+  StationRun run(0, DateMode::Automatic);
+  const std::string file = run.File("_import.adi");
+  {
+    const std::string made = MakeWholeExport(kFull_Log);
+    run.Run().Disque().WriteAll(file, made);
+  }
+  malloc_trim(0);
+  std::ofstream("/proc/self/clear_refs") << 5;  // From here on the peak counts.
+  ImportWhole(run, file);
+  std::string word;
+  long peak_kb = 0;
+  for (std::ifstream status("/proc/self/status"); status >> word;)
+    if (word == "VmHWM:") status >> peak_kb;
+  const double mb = 1048576.0, size = static_cast<double>(run.Run().Disque().Size(file)) / mb;
+  const double peak = static_cast<double>(peak_kb) * 1024 / mb;
+  std::printf("%.1f MB at most for a file of %.1f MB: %.2f times, target 3 times: %s\n", peak, size, peak / size,
+              peak <= 3 * size ? "met" : "MISSED");
+  return run.Main().Liste_QSO.Count() == kFull_Log ? 0 : 1;
 }
 
 }  // namespace vorelio::bench

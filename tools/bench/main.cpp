@@ -130,8 +130,10 @@ void MeasureAll() {
 }  // namespace
 }  // namespace vorelio::bench
 
-int main() {
+int main(int argc, char** argv) {
   try {
+    // In a process of its own, for its memory to be its own.
+    if (argc == 2 && std::string(argv[1]) == "--memory") return vorelio::bench::ImportForMemory();
     vorelio::bench::MeasureAll();
     return 0;
   } catch (const std::exception& error) {

@@ -27,6 +27,8 @@ class StationRun {
   std::string File(const std::string& ending) const { return folder_.File(kStation + ending); }
   /// Where the next file dialog finds its answer.
   doubles::QueuedDialogs& Dialogs() { return dialogs_; }
+  /// What happens while a modal window waits.
+  void While(std::function<void(Form&)> modal) { windows_.OnModal = std::move(modal); }
   /// What the program has shown, and the answers to its questions.
   doubles::BoxRecord& Boxes() { return messages_; }
   /// Copies a file of the template station over the station's.

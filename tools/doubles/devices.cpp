@@ -84,8 +84,8 @@ void SoundRecord::Play(const std::string& path, const Abandoned&) {
   if (OnPlay) OnPlay();
 }
 
-bool DocumentRecord::Open(const std::string& path) {
-  opened.push_back(path);
+bool DocumentRecord::Open(const std::string& path, const std::string& chapter) {
+  opened.push_back(chapter.empty() ? path : path + "#" + chapter);
   return readable;
 }
 

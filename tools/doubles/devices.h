@@ -93,9 +93,9 @@ class ClipboardRecord : public ClipboardService {
 
 class DocumentRecord : public DocumentService {
  public:
-  bool Open(const std::string& path) override;
+  bool Open(const std::string& path, const std::string& chapter) override;
 
-  std::vector<std::string> opened;
+  std::vector<std::string> opened;  ///< Paths, with "#" and the chapter behind those that were opened at one.
   bool readable = true;
 };
 

@@ -19,8 +19,10 @@
 #include "core/station_form.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "exchange/adif3_writer.h"
 #include "exchange/award_export_window.h"
 #include "exchange/export_adif_window.h"
+#include "exchange/import_journal_window.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/backup_settings_window.h"
 #include "maintenance/notes_window.h"
@@ -205,6 +207,7 @@ class Tour {
     TakeWindow<Restoration_Activite>();
     TakeWindow<Export_Adif>();
     TakeExportOfSome();
+    TakeImport();
     Do([&] { main.Liste_QSO.UserSelect(3); });
     TakeWindow<Exporter_QSO>();
     TakeWindow<Etiquettes>();
@@ -271,6 +274,32 @@ class Tour {
     Do([&] { some.Option2.UserClick(); });
     Take(some, QStringLiteral("Export_Adif-partiel"));
     Do([&] { some.Hide(); });
+  }
+
+  /// The log of another program, as it is shown before it comes in.
+  void TakeImport() {
+    const std::string file = programme_.Chemin("mes_qso.adi");
+    programme_.Disque().WriteAll(file, MadeUpJournal());
+    windows_.Waiter = [this](const std::function<bool()>&) {
+      auto& import = programme_.Fenetre<Import_Journal>();
+      Take(import, QStringLiteral("Import_Journal"));
+      Do([&] { import.Unload(); });
+    };
+    Do([&] { programme_.Fenetre<Import_Journal>().Ouvre(file); });
+    windows_.Waiter = {};
+  }
+
+  /// Contacts that the log has, with their cards, contacts that it doesn't, and some that it can't take.
+  static std::string MadeUpJournal() {
+    std::string journal = "<ADIF_VER:5>3.1.4<PROGRAMID:4>LogX<PROGRAMVERSION:3>2.6<EOH>\r\n";
+    for (int n = kContacts - 14; n < kContacts + 90; ++n) {
+      const std::string record = Enregistrement_ADIF3(Contact(n), {});
+      journal += record.substr(0, record.rfind("<EOR>")) + (n % 5 == 0 ? "<QSL_RCVD:1>Y" : "") + "<EOR>\r\n";
+    }
+    journal += "<CALL:5>F9PQR<QSO_DATE:8>20240612<TIME_ON:4>1832<BAND:2>4M<MODE:3>SSB<EOR>\r\n";
+    journal += "<CALL:5>F9STU<QSO_DATE:8>20240231<TIME_ON:4>0912<BAND:3>20M<MODE:2>CW<EOR>\r\n";
+    journal += "<CALL:15>VP2E/DL9ZZZ/MM1<QSO_DATE:8>20240613<TIME_ON:4>0715<BAND:3>15M<MODE:2>CW<EOR>\r\n";
+    return journal;
   }
 
   void TakeLabels() {

@@ -8,9 +8,11 @@
 
 namespace vorelio {
 
-bool QtDocuments::Open(const std::string& path) {
+bool QtDocuments::Open(const std::string& path, const std::string& chapter) {
   const QFileInfo file(ToQt(path));
-  return file.exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
+  QUrl place = QUrl::fromLocalFile(file.absoluteFilePath());
+  if (!chapter.empty()) place.setFragment(ToQt(chapter));
+  return file.exists() && QDesktopServices::openUrl(place);
 }
 
 }  // namespace vorelio
