@@ -71,6 +71,7 @@ class ClickView : public WidgetView {
 
  private:
   void TakeClick();
+  void ShowStop();
 
   Captioned& captioned_;
   QAbstractButton& button_;

@@ -61,13 +61,13 @@ void ComboView::ShowDeferred() {
 void ComboView::ShowText() {
   const QScopedValueRollback<bool> showing(showing_, true);
   const QString text = ToQt(control_.Text());
+  // First the words of a box without a row: where they become empty Qt selects the first row.
+  if (!shown_.isEditable()) shown_.setPlaceholderText(text);
   if (shown_.currentIndex() != control_.ListIndex()) shown_.setCurrentIndex(control_.ListIndex());
   if (QLineEdit* edit = shown_.lineEdit()) {
     if (edit->text() != text) edit->setText(text);
     // The next character takes the place of a text that was chosen, and joins one that was typed.
     if (control_.ListIndex() >= 0 && shown_.window()->focusWidget() == &shown_) edit->selectAll();
-  } else {
-    shown_.setPlaceholderText(text);
   }
 }
 
