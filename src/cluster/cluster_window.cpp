@@ -101,6 +101,7 @@ void Cluster::Tri_Ou_Filtre_Click() {
 
 void Cluster::Adresse_Changee() {
   Montre_Site();
+  adresse_changee_ = en_charge_;
   if (en_charge_) return;
   Afficher.SetEnabled(true);
   Patientez.SetEnabled(false);
@@ -126,6 +127,8 @@ void Cluster::Charge_Cluster() {
   } catch (const Fenetre_Fermee&) {
     return;
   }
+  // A load of the address before may have failed meanwhile: the new one is to be tried.
+  if (adresse_changee_) Adresse_Changee();
   if (listee) Choisit_Ligne();
 }
 

@@ -121,10 +121,11 @@ class Cluster : public Form {
   void Attend_Envoi();
   void Prend_Params(const Parametres_CAT& octets);
 
-  bool Page_Prete_ = false;   ///< Sort and filter clicks act.
-  bool en_charge_ = false;    ///< A page is awaited or being listed.
-  bool en_accord_ = false;    ///< A tuning is on its way.
-  bool temp_ouvert_ = false;  ///< `Temp1.txt` was left open by a load that failed while it wrote it.
+  bool Page_Prete_ = false;       ///< Sort and filter clicks act.
+  bool en_charge_ = false;        ///< A page is awaited or being listed.
+  bool adresse_changee_ = false;  ///< Since the load that goes on has begun.
+  bool en_accord_ = false;        ///< A tuning is on its way.
+  bool temp_ouvert_ = false;      ///< `Temp1.txt` was left open by a load that failed while it wrote it.
 
   std::string Emetteur_Choisi_;
   std::array<std::uint8_t, 5> Bloc_CAT_{};   ///< Four parameters and the opcode.

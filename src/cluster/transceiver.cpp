@@ -109,9 +109,10 @@ void Cluster::Avec_Port(const std::function<void()>& action) {
     action();
   } catch (const Erreur_Execution& erreur) {
     if (erreur.Genre() != Erreur::Peripherique) throw;
-    const std::string numero = NumPort.Caption();
-    Mnu_SansCom_Click();
-    programme_.Message("Le port com"_t + numero +
+    // The settings stay: a cable that fell out is no reason to choose port and speed anew.
+    programme_.plateforme.serial.Close();
+    Montre_Port();
+    programme_.Message("Le port com"_t + NumPort.Caption() +
                        " ne répond plus, il est fermé.\r\nVérifiez son branchement, puis choisissez-le de nouveau "
                        "dans le menu Port Com."_t);
   }
@@ -156,8 +157,9 @@ void Cluster::Cat_FT1000() {
 
 void Cluster::Cat_Icom(std::string_view adresse) {
   const std::string frequence = Texte_Qrg(Ligne_Cluster, Colonne_Qrg(Famille_CAT::Icom, Tri_Choisi()));
-  for (const std::string& trame : Trames_Icom(adresse, frequence))
-    Avec_Port([&] { programme_.plateforme.serial.Write(trame); });
+  Avec_Port([&] {
+    for (const std::string& trame : Trames_Icom(adresse, frequence)) programme_.plateforme.serial.Write(trame);
+  });
 }
 
 void Cluster::Efface_Params() { Prend_Params({}); }

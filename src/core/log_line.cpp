@@ -2,7 +2,7 @@
 
 namespace vorelio {
 
-std::string Champs_QSO::Bloc_Sans_QSL() { return Blancs(7) + "1 " + Blancs(18); }
+std::string Champs_QSO::QSL_Nouvelle() { return "1 " + Blancs(18); }
 
 std::string Construit_Ligne(const Champs_QSO& qso) {
   const auto champ = [](const std::string& texte, const Champ& place) {
@@ -21,8 +21,9 @@ std::string Construit_Ligne(const Champs_QSO& qso) {
   ligne += champ(qso.RSTE_A, champs::RSTE_A);
   ligne += champ(qso.RSTR_A, champs::RSTR_A);
   ligne += champ(qso.QTH_A, champs::QTH_A);
-  ligne += champ(qso.Prenom_A, champs::Prenom_A);
-  ligne += qso.Bloc_QSL;
+  // A new contact's first name may run into the reserved columns, which belong to the block of one that stood already.
+  const int jusqu_aux_dates = champs::Distance_A.colonne - champs::Prenom_A.colonne;
+  ligne += Complete(qso.Prenom_A, jusqu_aux_dates - static_cast<int>(qso.Bloc_QSL.size())) + qso.Bloc_QSL;
   ligne += champ(qso.Distance_A, champs::Distance_A);
   ligne += champ(qso.Azimut_A, champs::Azimut_A);
   ligne += champ(qso.Activ_A, champs::Activ_A);

@@ -75,11 +75,11 @@ inline std::string_view Partie_Log(std::string_view ligne_liste) {
 struct Champs_QSO {
   std::string Date_A, Indicatif_A, Debut_A, Fin_A, Depart_A, Locator_A, Bande_A, Mode_A, RSTE_A, RSTR_A, QTH_A,
       Prenom_A;
-  std::string Bloc_QSL = Bloc_Sans_QSL();
+  std::string Bloc_QSL = QSL_Nouvelle();  ///< `champs::Bloc_QSL`, or of it the columns from the state on.
   std::string Distance_A, Azimut_A, Activ_A, Remarques_A;
 
-  /// The QSL block of a new contact: state "1", no date.
-  static std::string Bloc_Sans_QSL();
+  /// The QSL columns of a new contact, without the reserved ones in front: state "1", no date.
+  static std::string QSL_Nouvelle();
 };
 
 /// Builds a `Ligne_Log`. A field beyond its width plus gap is run-time error 5.

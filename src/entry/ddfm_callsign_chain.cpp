@@ -103,7 +103,7 @@ void DDFM::Depart_A_KeyPress(int& touche) {
   std::string nom, ligne;
   Cherche_Departement(programme_, saisie.Depart_Saisi, saisie.Code_Dpt, nom, programme_.contexte.Bande_Courante, ligne);
   if (saisie.Code_Dpt == "0") {
-    programme_.Message("Attention nouveau département le "_t + Depart_A.Text() + " " + nom);
+    programme_.Message("Attention nouveau département le "_t + Forme_Affichee(saisie.Depart_Saisi) + " " + nom);
     Dpt(static_cast<int>(Valeur(saisie.Depart_Saisi))).SetColour(kDpt_Contacte);
   }
 

@@ -125,7 +125,7 @@ std::string Convertit(std::string_view ligne, char& etat_QSL, std::vector<std::s
   qso.QTH_A = Champ_Ou(ligne, "<QTH", "").substr(0, 20);
   qso.Prenom_A = Champ_Ou(ligne, "<NAME", "").substr(0, 15);
   Avance_Etat_QSL(ligne, etat_QSL);
-  qso.Bloc_QSL = Blancs(7) + etat_QSL + Blancs(19);
+  qso.Bloc_QSL = etat_QSL + Blancs(19);
   qso.Remarques_A = Champ_Ou(ligne, "<COMMENT", "").substr(0, 30);
   qso.Depart_A = Departement(ligne);
   qso.Activ_A = "0";

@@ -247,6 +247,8 @@ void ListBox::UserKey(int key) {
   if (!Reachable()) return;
   SetFocus();
   RaiseKey(KeyPress, key);
+  // Enter means what a double click means, where it means nothing of its own.
+  if (key == kEntree && !KeyPress && DblClick && ListIndex() >= 0) UserDblClick(ListIndex());
 }
 
 ComboBox::ComboBox(Form& form, std::string_view name, Kind kind, std::string_view text)

@@ -1,7 +1,9 @@
 #include "cluster/cluster_window.h"
 
 #include <chrono>
+#include <utility>
 
+#include "cluster/cluster_settings_windows.h"
 #include "cluster/made_up_page.h"
 #include "cluster/memory_window.h"
 #include "entry/ddfm.h"
@@ -120,7 +122,8 @@ TEST_F(ClusterWindowTest, ATickWithinAnotherEventIsPassedOver) {
   EXPECT_EQ(devices.pages.fetched.size(), 1U);
 }
 
-const std::string kOn(5, '\0'), kMode("\0\0\0\0\x07", 5), kOff("\0\0\0\0\x80", 5), k40m("\x00\x70\x40\x50\x01", 5);
+const std::string kOn(5, '\0'), kMode("\0\0\0\0\x07", 5), kOff("\0\0\0\0\x80", 5), k40m("\x00\x70\x40\x50\x01", 5),
+    k20m("\x01\x41\x95\x00\x01", 5);
 
 // What can't be had, by the settings or by a date that moves the frequency out of its columns, ends the program; a
 // click within a load is no part of the load.
@@ -175,13 +178,43 @@ TEST_F(ClusterWindowTest, APortThatIsGoneOrStuckIsClosedWithAWord) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
     EXPECT_EQ(messages.TakeMessages().size(), 1U);
     EXPECT_FALSE(devices.serial.IsOpen());
-    EXPECT_EQ(form.NumPort.Caption(), "0");
-    EXPECT_EQ(settings.Get("Setup F6ABC", "Port Com"), "0");
+    EXPECT_EQ(form.NumPort.Caption(), "1");
+    EXPECT_EQ(settings.Get("Setup F6ABC", "Port Com"), "1");
+    EXPECT_EQ(settings.Get("Setup F6ABC", "Baud"), "9600,n,8,1");
+    EXPECT_EQ(form.Nom_Port.Caption(), "fermé"_t);
     EXPECT_EQ(devices.serial.bytes, stuck ? kOn : "");
     EXPECT_FALSE(programme->Termine_Deja());
     devices.serial.unplugged = false;
+    devices.serial.stuck = 0;
+    // Choosing it again is enough.
+    Event([&] { form.Mnu_Com1.UserClick(); });
+    Event([&] { form.Liste_Stations.UserSelect(0); });
+    EXPECT_EQ(devices.serial.bytes.substr(stuck ? kOn.size() : 0), kOn + k20m + kMode + kOff);
     Event([&] { form.Unload(); });
   }
+}
+
+TEST_F(ClusterWindowTest, AnAddressSavedDuringALoadThatFailsMayBeTried) {
+  auto& form = Open();
+  devices.pages.pages.clear();
+  bool saved = false;
+  devices.pages.OnFetch = [&] {
+    if (std::exchange(saved, true)) return;
+    Event([&] {
+      auto& window = programme->Fenetre<Adresse_Cluster>();
+      window.Show();
+      window.Adresse.SetText("autre.example");
+      window.Enregistrer.UserClick();
+    });
+  };
+  Event([&] { form.Afficher.UserClick(); });
+  EXPECT_EQ(messages.TakeMessages(), Lines{kNoAnswer});
+  EXPECT_TRUE(form.Afficher.Enabled());
+  EXPECT_FALSE(form.Patientez.Enabled());
+  // Of that address the next failure is a failure like any other.
+  Event([&] { form.Afficher.UserClick(); });
+  EXPECT_EQ(messages.TakeMessages(), Lines{kNoAnswer});
+  EXPECT_FALSE(form.Afficher.Enabled());
 }
 
 TEST_F(ClusterWindowTest, TheModelsThatAreNotOffered) {

@@ -345,7 +345,18 @@ TEST(OutsideText, IsUtf8OrWindows1252) {
       // One byte that isn't UTF-8 speaks for the whole file.
       {"Ren\xC3\xA9 Ren\xE9", "Ren\xC3\xA9 Ren\xE9"},
       {"\xEF\xBB\xBF[REG1TEST;1]", "[REG1TEST;1]"},
-      {"\xE6\x9D\xB1\xE4\xBA\xAC \xEF\xBF\xBD", "?? ?"},
+      {"\xE6\x9D\xB1\xE4\xBA\xAC \xC3\xA9 \xEF\xBF\xBD", "?? \xE9 ?"},
+      // Letters that happen to be a valid sequence, of which no letter of the set can be the meaning.
+      {"\xC9\x85 Ren\x65", "\xC9\x85 Rene"},
+      {"\xC3\xA9\xC9\x85", "\xE9?"},
+      {"\xEF\xBB\xBF\xC9\x85", "?"},
+      {"<eor>\r\n\x1A", "<eor>\r\n"},
+      {"<eor>\x1A\x1A\r\n", "<eor>"},
+      {"a\x1A"
+       "b\x1A",
+       "a\x1A"
+       "b"},
+      {"\x1A", ""},
       {"cut \xC3", "cut \xC3"},
       {"", ""},
   };

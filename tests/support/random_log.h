@@ -27,7 +27,7 @@ class RandomLog {
     qso.Bande_A = std::string(kBandes[static_cast<std::size_t>(Below(static_cast<int>(kBandes.size())))]);
     if (Below(3) == 0) qso.Bande_A = Majuscules(qso.Bande_A);
     if (unknown_bands && Below(20) == 0) qso.Bande_A = Pick({"27 Mhz", "", "XX"});
-    qso.Bloc_QSL = Blancs(7) + Pick({"1", "2", "3", "4", "1", "0", "9", " ", "a"}) + Blancs(19);
+    qso.Bloc_QSL = Pick({"1", "2", "3", "4", "1", "0", "9", " ", "a"}) + Blancs(19);
     std::string line = Construit_Ligne(qso);
     if (Below(40) == 0) line.resize(static_cast<std::size_t>(Below(static_cast<int>(line.size()))));
     return line;

@@ -7,6 +7,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QShortcut>
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -78,6 +81,15 @@ bool ThrowsAway(const QWidget& widget) {
   return widget.objectName() == QLatin1String("Annuler") || widget.objectName() == QLatin1String("Effacer");
 }
 
+/// Of several options the chosen one is in the tab chain, and the arrow keys lead to the others.
+bool BesideTheChosen(const QWidget& widget) {
+  if (!qobject_cast<const QRadioButton*>(&widget)) return false;
+  const auto options = widget.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+  return std::any_of(options.begin(), options.end(), [](const QRadioButton* option) {
+    return option->isChecked() && option->focusPolicy() & Qt::TabFocus;
+  });
+}
+
 /// Every window without a mouse, and without being seen.
 using AccessTest = On<ProgramLook>;
 
@@ -134,6 +146,28 @@ TEST_F(AccessTest, MnemonicsDoNotClash) {
   }
 }
 
+// What has no letter has a key, and says which.
+TEST_F(AccessTest, EachStepOfAContactHasAKeyOfItsOwn) {
+  Bound bound(Make<DDFM>, Furnisher());
+  auto& main = static_cast<DDFM&>(*bound.form);
+  std::map<QString, QString> taken;
+  const auto take = [&](const QString& key, const QString& what) {
+    EXPECT_TRUE(taken.emplace(key, what).second) << qPrintable(key + u' ' + what + u' ' + taken[key]);
+  };
+  for (const auto* entry : bound.Window().findChildren<QAction*>())
+    for (const QKeySequence& key : entry->shortcuts()) take(key.toString(), entry->text());
+  for (const auto* shortcut : bound.Window().findChildren<QShortcut*>()) take(shortcut->key().toString(), {});
+  for (const Control* control :
+       {static_cast<Control*>(&main.Activ_A), static_cast<Control*>(&main.Date_A), static_cast<Control*>(&main.Debut_A),
+        static_cast<Control*>(&main.Fin_A), static_cast<Control*>(&main.RSTR_A), static_cast<Control*>(&main.Annuler),
+        static_cast<Control*>(&main.Effacer), static_cast<Control*>(&main.Command1)}) {
+    const QWidget* widget = bound.bench.windows.WidgetOf(*control);
+    const QString key = widget->property("touche").toString();
+    EXPECT_TRUE(taken.contains(key) && widget->toolTip().endsWith(QStringLiteral(" (%1)").arg(key)))
+        << qPrintable(widget->objectName() + u' ' + widget->toolTip());
+  }
+}
+
 TEST_F(AccessTest, EveryWindowIsWorkedByTheKeyboard) {
   for (const Maker make : kForms) {
     Bound bound(make, Furnisher());
@@ -147,7 +181,8 @@ TEST_F(AccessTest, EveryWindowIsWorkedByTheKeyboard) {
       if (widget->property("cellule").toBool())
         boards[widget->parentWidget()] |= in_chain && !widget->isHidden();
       else
-        EXPECT_TRUE(in_chain != (bound.form->Main() && ThrowsAway(*widget)) || ReadOnly(*widget))
+        EXPECT_TRUE(in_chain != (bound.form->Main() && ThrowsAway(*widget)) || ReadOnly(*widget) ||
+                    BesideTheChosen(*widget))
             << qPrintable(widget->objectName());
     }
     for (const auto& [board, reached] : boards) {

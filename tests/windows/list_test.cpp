@@ -215,6 +215,27 @@ TEST(ListTitles, StandOverTheirColumns) {
   QApplication::setFont(before);
 }
 
+// Ticks push the rows aside, and the titles with them.
+TEST_F(ListTest, TitlesArePaintedAnewWhenTicksCome) {
+  ticks->setProperty("titres", QStringLiteral("Date@7"));
+  ticks->Arrange();
+  form().Cochee.ClearItems();
+  gate.Refresh();
+  QCoreApplication::processEvents();
+  auto* titles = ticks->findChild<QWidget*>(QStringLiteral("titre_colonnes"));
+  struct : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      painted = painted || event->type() == QEvent::Paint;
+      return false;
+    }
+    bool painted = false;
+  } watch;
+  titles->installEventFilter(&watch);
+  form().Cochee.AddItem(Row(0));
+  gate.Refresh();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return watch.painted; }, 1000));
+}
+
 TEST_F(ListTest, ARowThatAClickTakesAwayDragsNoOther) {
   ListBox& list = form().Liste;
   list.Click = [&list] { list.RemoveItem(list.ListIndex()); };

@@ -21,7 +21,9 @@
 #include "platform/qt/qt_file_dialogs.h"
 #include "platform/qt/qt_messages.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/rows_view.h"
 #include "platform/qt/window_extras.h"
+#include "platform/qt/window_fit.h"
 #include "printing/labels_window.h"
 #include "tallies/add_prefix_window.h"
 #include "windows/windows_bench.h"
@@ -275,9 +277,9 @@ TEST(SmallScreen, HoldsTheMainWindow) {
       return QString();
     };
     EXPECT_TRUE(QTest::qWaitFor([&] { return cut().isEmpty(); })) << qPrintable(cut());
-    const QWidget* page = window->findChild<QWidget*>(QStringLiteral("centre"));
-    const QSize least = page->minimumSizeHint();
-    EXPECT_TRUE(least.width() <= width && least.height() <= height - 60)
+    const QSize least = window->findChild<QWidget*>(QStringLiteral("corps"))->minimumSizeHint();
+    const QSize room = window->findChild<QScrollArea*>(QStringLiteral("page"))->size();
+    EXPECT_TRUE(least.width() <= room.width() && least.height() <= room.height())
         << qPrintable(QStringLiteral("%1x%2").arg(least.width()).arg(least.height()));
     for (const QPushButton* button : window->findChildren<QPushButton*>())
       EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width()) << qPrintable(button->text());
@@ -287,6 +289,35 @@ TEST(SmallScreen, HoldsTheMainWindow) {
       EXPECT_TRUE(combo->minimumSizeHint().width() > words) << qPrintable(combo->objectName());
     }
   }
+}
+
+// What a screen of 1366x768 has left at a scale of one and a half.
+TEST(SmallScreen, KeepsTheClocksAndFiveRowsOfTheLog) {
+  LookBench bench;
+  auto& main = bench.programme.Fenetre<DDFM>();
+  for (int n = 0; n < 20; ++n) main.Liste_QSO.AddItem(std::string(205, 'x'));
+  QWidget* window = bench.windows.WindowOf(main);
+  window->resize(895, 472);
+  auto* log = dynamic_cast<RowsView*>(bench.windows.WidgetOf(main.Liste_QSO));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return log->viewport()->height() >= 5 * log->RowSize().height(); }));
+  EXPECT_EQ(window->size(), QSize(895, 472));
+  const auto whole = [&](Control& control) {
+    const QWidget* widget = bench.windows.WidgetOf(control);
+    return widget->visibleRegion().boundingRect() == widget->rect();
+  };
+  EXPECT_TRUE(whole(main.Label37) && whole(main.Label34) && whole(main.Label33) && whole(main.Liste_QSO));
+  // Also a key that leads to a field out of sight shows it.
+  bench.programme.Recoit([&] { main.Remarques_A.SetEnabled(true); });
+  bench.windows.WidgetOf(main.Remarques_A)->setFocus(Qt::ShortcutFocusReason);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return whole(main.Remarques_A); }));
+}
+
+TEST_F(LookTest, AWindowStandsOnTheScreenWithItsFrame) {
+  auto& main = programme.Fenetre<DDFM>();
+  QWidget* window = windows.WindowOf(main);
+  const QRect room = window->screen()->availableGeometry();
+  EXPECT_TRUE(room.contains(QRect(window->pos(), WithFrame(*window))))
+      << window->x() << " " << window->y() << " " << window->width() << " " << window->height();
 }
 
 // The page of a window that outgrows its screen leads to every control.

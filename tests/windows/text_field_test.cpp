@@ -177,7 +177,11 @@ TEST_F(TextFieldTest, ADoubleClickIsTheLogics) {
   form().Champ.DblClick = [&] { form().Champ.Clear(); };
   QTest::mouseDClick(field, Qt::LeftButton);
   EXPECT_TRUE(field->text().isEmpty());
+  // A key that says nothing about it empties no field; a cell it opens.
   form().Champ.SetText("F6ABC");
+  QTest::keyClick(field, Qt::Key_F2);
+  EXPECT_EQ(field->text(), QStringLiteral("F6ABC"));
+  form().Champ.SetReadOnly(true);
   QTest::keyClick(field, Qt::Key_F2);
   EXPECT_TRUE(field->text().isEmpty());
 }
@@ -193,8 +197,11 @@ TEST_F(TextFieldTest, ColouredFieldsKeepBlackText) {
     TextField& coloured = bench.form().Champ;
     coloured.SetColour(kSaisie);
     EXPECT_EQ(seen(QPalette::Base), QColor(0xC0, 0xFF, 0xC0));
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
       EXPECT_EQ(seen(QPalette::Text, group), QColor(Qt::black));
+    // Locked, it looks like any other locked field.
+    for (const auto role : {QPalette::Text, QPalette::Base})
+      EXPECT_EQ(seen(role, QPalette::Disabled), ThemePalette(dark).color(QPalette::Disabled, role));
     coloured.SetColour(kFait);
     EXPECT_EQ(seen(QPalette::Base), QColor(0xFF, 0xFF, 0xC0));
     coloured.SetColour(kFond_Fenetre);

@@ -104,7 +104,7 @@ void Qso(Run& run, Args& args) {
       qso.*field = value;
     } else if (const Champ* inside = QslFieldOf(name)) {
       if (static_cast<int>(value.size()) > inside->largeur) throw Failure{Shown(value) + " is too long for " + name};
-      qso.Bloc_QSL.replace(static_cast<std::size_t>(inside->colonne - champs::Bloc_QSL.colonne),
+      qso.Bloc_QSL.replace(static_cast<std::size_t>(inside->colonne - champs::Etat_QSL.colonne),
                            static_cast<std::size_t>(inside->largeur), Complete(value, inside->largeur));
     } else {
       Differs("a field of a contact", name);

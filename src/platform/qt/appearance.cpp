@@ -115,8 +115,10 @@ QPalette ThemePalette(bool dark) {
   palette.setColor(QPalette::Inactive, QPalette::Highlight,
                    Blend(QColor::fromRgb(shades.highlight), QColor::fromRgb(shades.window), 0.1));
   const QColor faint = Blend(QColor::fromRgb(shades.text), QColor::fromRgb(shades.card), 0.5);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+  for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, faint);
+  // What a locked field shows is still to be read.
+  palette.setColor(QPalette::Disabled, QPalette::Text, QColor::fromRgb(shades.quiet));
   palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(shades.border));
   return palette;
 }

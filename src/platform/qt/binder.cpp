@@ -20,6 +20,7 @@
 #include "platform/qt/list_view.h"
 #include "platform/qt/multi_line_view.h"
 #include "platform/qt/other_views.h"
+#include "platform/qt/page_area.h"
 #include "platform/qt/picture_view.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/text_field_view.h"
@@ -278,6 +279,7 @@ class Loader : public QUiLoader {
     QWidget* own = nullptr;
     if (kind == QLatin1String("QListView")) own = new RowsView(parent);
     if (kind == QLatin1String("QLabel")) own = new CaptionLabel(parent);
+    if (kind == QLatin1String("QScrollArea")) own = new PageArea(parent);
     if (kind == QLatin1String("PictureBoard")) own = new PictureBoard(parent);
     if (!own) return QUiLoader::createWidget(kind, parent, name);
     own->setObjectName(name);

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "platform/qt/qt_text.h"
 
@@ -128,7 +129,19 @@ void ClickView::Show(Property property) {
     button_.setAutoExclusive(false);
     button_.setChecked(Checked());
     button_.setAutoExclusive(exclusive);
+    if (exclusive) ShowStop();
   }
+}
+
+/// Of several options the chosen one is the stop of the tab chain, from the first press of the key on; Qt would settle
+/// this when one of them first has the focus.
+void ClickView::ShowStop() {
+  const auto options = button_.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+  const bool chosen =
+      std::any_of(options.begin(), options.end(), [](const auto* option) { return option->isChecked(); });
+  for (QRadioButton* option : options)
+    option->setFocusPolicy(!chosen || option->isChecked() ? Qt::StrongFocus
+                                                          : Qt::FocusPolicy(Qt::StrongFocus & ~Qt::TabFocus));
 }
 
 bool ClickView::eventFilter(QObject* watched, QEvent* event) {

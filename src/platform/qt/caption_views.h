@@ -73,6 +73,7 @@ class ClickView : public WidgetView {
   void TakeClick();
   void ShowCaption();
   bool GoToNeighbour(int key);
+  void ShowStop();
 
   Captioned& captioned_;
   QAbstractButton& button_;

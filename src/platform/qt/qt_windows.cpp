@@ -132,8 +132,8 @@ void QtWindows::PlaceInCentre(Window& window) {
   for (const auto& other : windows_)
     if (other->form->Main() && other->widget->isVisible()) screen = other->widget->screen();
   const QRect room = screen->availableGeometry();
-  const QSize size = window.widget->frameGeometry().size().boundedTo(room.size());
-  window.widget->move(room.center() - QPoint(size.width() / 2, size.height() / 2));
+  const QSize spare = (room.size() - WithFrame(*window.widget)) / 2;
+  window.widget->move(room.topLeft() + QPoint(std::max(0, spare.width()), std::max(0, spare.height())));
 }
 
 // --- What is put off ------------------------------------------------------------------------------------------------

@@ -104,7 +104,20 @@ QSize RowsView::RowSize() const {
   return {TextStart() + static_cast<int>(width) + kMargin + 1, static_cast<int>(metrics.height()) + 4};
 }
 
-void RowsView::SetWidest(int characters) { widest_ = characters; }
+// Room for the rows that its property "lignes_au_moins" asks for.
+QSize RowsView::minimumSizeHint() const {
+  const QSize least = QListView::minimumSizeHint();
+  const int rows = property("lignes_au_moins").toInt();
+  if (rows == 0) return least;
+  const int around = viewportMargins().top() + horizontalScrollBar()->sizeHint().height() + 2 * frameWidth();
+  return {least.width(), std::max(least.height(), rows * RowSize().height() + around)};
+}
+
+void RowsView::SetWidest(int characters) {
+  widest_ = characters;
+  // Ticks have come or gone with the rows: the titles stand elsewhere.
+  if (strip_) strip_->update();
+}
 
 void RowsView::Arrange() {
   QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -124,6 +137,7 @@ void RowsView::Arrange() {
   }
   horizontalScrollBar()->setSingleStep(2 * fontMetrics().averageCharWidth());
   scheduleDelayedItemsLayout();
+  updateGeometry();
 }
 
 void RowsView::resizeEvent(QResizeEvent* event) {

@@ -46,6 +46,7 @@ class RowsView : public QListView {
   static constexpr int kMargin = 8;
 
   QSize RowSize() const;
+  QSize minimumSizeHint() const override;
   /// Where the text of a row starts.
   int TextStart() const;
 

@@ -15,6 +15,7 @@ namespace vorelio {
 namespace {
 
 constexpr qreal kRadius = 4;
+constexpr qreal kCellRadius = 3;
 constexpr qreal kCardRadius = 8;
 constexpr int kFieldMargin = 7;
 constexpr int kArrowWidth = 22;
@@ -22,14 +23,17 @@ constexpr int kCardMargin = 12;
 
 bool Enabled(const QStyleOption& option) { return option.state.testFlag(QStyle::State_Enabled); }
 
-/// A rounded field: its ground, and a border that tells the focus.
-void DrawField(QPainter& painter, const QRect& rect, const QStyleOption& option, bool focused, qreal radius) {
+/// A rounded field: its ground, and a border that tells the focus. A field that only shows lies flat on its card, whose
+/// ground it nearly has: at a glance it is none to type into.
+void DrawField(QPainter& painter, const QRect& rect, const QStyleOption& option, bool focused, qreal radius,
+               bool shows_only = false) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor base = option.palette.color(QPalette::Base);
-  // A field that waits for its turn is quieter, whatever its colour.
-  const QColor ground = Enabled(option) ? base : Blend(base, option.palette.color(QPalette::Window), 0.35);
-  QColor border = option.palette.color(QPalette::Mid);
+  const bool flat = shows_only || !Enabled(option);
+  const QPalette& palette = option.palette;
+  const QColor ground =
+      flat ? Blend(palette.color(QPalette::Light), palette.color(QPalette::Mid), 0.18) : palette.color(QPalette::Base);
+  QColor border = flat ? ground : palette.color(QPalette::Mid);
   if (focused) border = option.palette.color(QPalette::Active, QPalette::Highlight);
   const qreal width = focused ? 2 : 1;
   const qreal inset = width / 2;
@@ -71,6 +75,13 @@ void DrawButton(QPainter& painter, const QStyleOption& option, bool principal) {
   painter.restore();
 }
 
+void DrawTick(QPainter& painter, const QPointF& middle, qreal side, const QColor& colour) {
+  painter.setPen(QPen(colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const QPointF points[] = {middle + QPointF(-0.26, 0.02) * side, middle + QPointF(-0.07, 0.22) * side,
+                            middle + QPointF(0.27, -0.20) * side};
+  painter.drawPolyline(points, 3);
+}
+
 /// The box of a check box, or the ring of an option button.
 void DrawIndicator(QPainter& painter, const QStyleOption& option, bool round) {
   painter.save();
@@ -91,12 +102,20 @@ void DrawIndicator(QPainter& painter, const QStyleOption& option, bool round) {
     painter.setBrush(palette.color(QPalette::HighlightedText));
     painter.drawEllipse(place.center(), side * 0.2, side * 0.2);
   } else if (on) {
-    painter.setPen(QPen(palette.color(QPalette::HighlightedText), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF middle = place.center();
-    const QPointF points[] = {middle + QPointF(-0.26, 0.02) * side, middle + QPointF(-0.07, 0.22) * side,
-                              middle + QPointF(0.27, -0.20) * side};
-    painter.drawPolyline(points, 3);
+    DrawTick(painter, place.center(), side, palette.color(QPalette::HighlightedText));
   }
+  painter.restore();
+}
+
+/// The tick in front of a menu entry.
+void DrawChosen(QPainter& painter, const QStyleOptionMenuItem& entry) {
+  constexpr int kColumn = 24, kSide = 16;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool selected = entry.state.testFlag(QStyle::State_Selected) && Enabled(entry);
+  const QRect column(entry.rect.left(), entry.rect.top(), kColumn, entry.rect.height());
+  DrawTick(painter, QStyle::visualRect(entry.direction, entry.rect, column).center(), kSide,
+           entry.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
   painter.restore();
 }
 
@@ -171,8 +190,11 @@ void VorelioStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     case PE_FrameLineEdit:
       // The field of a combo box stands on the box's own ground.
       if (widget && qobject_cast<const QComboBox*>(widget->parentWidget())) return;
-      DrawField(*painter, option->rect, *option, option->state.testFlag(State_HasFocus),
-                Marked(widget, "cellule") ? 3 : kRadius);
+      if (Marked(widget, "cellule"))
+        DrawField(*painter, option->rect, *option, option->state.testFlag(State_HasFocus), kCellRadius);
+      else
+        DrawField(*painter, option->rect, *option, option->state.testFlag(State_HasFocus), kRadius,
+                  option->state.testFlag(State_ReadOnly));
       return;
     case PE_PanelButtonCommand: DrawButton(*painter, *option, Marked(widget, "principal")); return;
     case PE_FrameFocusRect:
@@ -205,6 +227,16 @@ void VorelioStyle::drawControl(ControlElement element, const QStyleOption* optio
     painter->setPen(box->palette.color(QPalette::Text));
     painter->drawText(place.adjusted(2, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                       box->fontMetrics.elidedText(box->currentText, Qt::ElideRight, place.width()));
+    return;
+  }
+  const auto* entry = element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+  if (entry && entry->checkType != QStyleOptionMenuItem::NotCheckable) {
+    // One mark for what is chosen, and none for what isn't, whether the entry is one of several or stands alone.
+    QStyleOptionMenuItem plain(*entry);
+    plain.checkType = QStyleOptionMenuItem::NotCheckable;
+    plain.checked = false;
+    QProxyStyle::drawControl(element, &plain, painter, widget);
+    if (entry->checked) DrawChosen(*painter, *entry);
     return;
   }
   if (element == CE_PushButtonLabel && Marked(widget, "principal") && Enabled(*option)) {
@@ -339,7 +371,7 @@ QIcon VorelioStyle::standardIcon(StandardPixmap icon, const QStyleOption* option
 int VorelioStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const {
   if (hint == SH_ComboBox_Popup || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-  // Disabled fields keep their black text on the model's colour: no light edge around it.
+  // A contact that is only shown is still to be read: no light edge around its letters.
   if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }

@@ -121,7 +121,8 @@ bool TextFieldView::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: {
       const auto& key = static_cast<const QKeyEvent&>(*event);
-      const bool opens = key.key() == Qt::Key_F2 && control_.DblClick;
+      // A cell opens its list. A field that is typed into isn't emptied by a key that says nothing about it.
+      const bool opens = key.key() == Qt::Key_F2 && control_.DblClick && control_.ReadOnly();
       if (opens) Deliver([this] { control_.UserDblClick(); });
       const QString typed = opens ? QString() : TypedCharacters(key);
       if (!typed.isEmpty()) Type(typed, gate_, shown_, take);

@@ -122,11 +122,14 @@ QColor ToColour(Couleur colour) {
 void PaintField(QWidget& widget, Couleur colour) {
   QPalette palette;
   if (!SystemColour(colour)) {
-    for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Window})
-      palette.setColor(role, ToColour(colour));
-    // Every colour of the model is a light one.
-    for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText, QPalette::PlaceholderText})
-      palette.setColor(role, Qt::black);
+    // A field that can't be typed into looks like any other of that kind.
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+      for (const auto role : {QPalette::Base, QPalette::Button, QPalette::Window})
+        palette.setColor(group, role, ToColour(colour));
+      // Every colour of the model is a light one.
+      for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText, QPalette::PlaceholderText})
+        palette.setColor(group, role, Qt::black);
+    }
   } else if (colour == kFace_Bouton && widget.inherits("QAbstractItemView")) {
     palette.setColor(QPalette::Base, widget.palette().color(QPalette::Button));
   }

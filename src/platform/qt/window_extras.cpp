@@ -3,8 +3,11 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
 
 #include "platform/qt/qt_text.h"
 #include "platform/qt/window_fit.h"
@@ -33,10 +36,38 @@ class PlaceKeeper : public QObject {
   QString key_;
 };
 
+/// A key of its own leads to a field and presses a button. Their tip tells it.
+void GiveKey(QWidget& widget, const QString& key) {
+  auto* shortcut = new QShortcut(QKeySequence(key), widget.window());
+  shortcut->setAutoRepeat(false);
+  auto* button = qobject_cast<QPushButton*>(&widget);
+  QObject::connect(shortcut, &QShortcut::activated, &widget, [&widget, button] {
+    if (button)
+      button->click();
+    else
+      widget.setFocus(Qt::ShortcutFocusReason);
+  });
+  const auto tell = [&key](QWidget& place, const QString& words) {
+    place.setToolTip(QStringLiteral("%1 (%2)").arg(place.toolTip().isEmpty() ? words : place.toolTip(), key));
+  };
+  if (button) return tell(widget, WithoutMnemonic(button->text()));
+  for (QLabel* title : widget.window()->findChildren<QLabel*>()) {
+    if (title->buddy() != &widget) continue;
+    tell(widget, title->text());
+    tell(*title, title->text());
+  }
+}
+
+void GiveKeys(QWidget& window) {
+  for (QWidget* widget : window.findChildren<QWidget*>())
+    if (const QString key = widget->property("touche").toString(); !key.isEmpty()) GiveKey(*widget, key);
+}
+
 }  // namespace
 
 bool WindowExtras::Furnish(const Form& form, QWidget& window) {
   appearance_.Dress(window);
+  GiveKeys(window);
   if (auto* main = qobject_cast<QMainWindow*>(&window); main && form.Main()) AddViewMenu(*main);
   return form.Main() && Restore(ToQt(form.Name()), window);
 }

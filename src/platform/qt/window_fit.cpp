@@ -42,6 +42,11 @@ void PutOnPage(QWidget& window) {
 
 }  // namespace
 
+QSize WithFrame(const QWidget& window) {
+  const QSize framed = window.frameGeometry().size();
+  return framed == window.size() ? framed + kFrame : framed;
+}
+
 QSize RoomFor(const QWidget& window) {
   const QSize room = window.screen()->availableSize() - kFrame;
   return room.isEmpty() ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : room;

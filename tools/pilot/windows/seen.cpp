@@ -55,10 +55,13 @@ Reading SeenChecked(const QWidget& widget) {
 Reading SeenColour(const Control& control, const QWidget& widget) {
   if (qobject_cast<const QGroupBox*>(&widget) || qobject_cast<const QAbstractButton*>(&widget)) return std::nullopt;
   const auto role = qobject_cast<const QLabel*>(&widget) ? QPalette::Window : QPalette::Base;
-  const QColor shown = widget.palette().color(role);
+  // Disabled fields leave their colour aside until they are enabled again.
+  const QColor shown = widget.palette().color(QPalette::Active, role);
   const auto word = static_cast<unsigned>(shown.blue() << 16 | shown.green() << 8 | shown.red());
   if (control.Colour() == kFond_Fenetre)
-    return shown == QApplication::palette(&widget).color(role) ? "window" : Utf8(QString::number(word, 16).toUpper());
+    return shown == QApplication::palette(&widget).color(QPalette::Active, role)
+               ? "window"
+               : Utf8(QString::number(word, 16).toUpper());
   if ((control.Colour() & 0x80000000U) != 0) return std::nullopt;
   return Utf8(QString::number(word, 16).toUpper());
 }
