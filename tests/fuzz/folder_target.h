@@ -216,7 +216,8 @@ class FolderTarget {
       Type(Main().Debut_A, "10:00");
     });
     if (!entered || programme_->contexte.Station_Indicatif != "F9QZX") return;
-    const auto before = Lines(Log());
+    // Zeros at the end are no line: a save cuts them off.
+    const auto before = Lines(Log().substr(0, Log().find_last_not_of('\0') + 1));
     const bool saved = Deed([&] {
       Main().Enregistrer.SetEnabled(true);
       Main().Enregistrer.UserClick();
