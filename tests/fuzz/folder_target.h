@@ -112,7 +112,7 @@ class FolderTarget {
     disk_.files.clear();
     for (const auto& [name, content] : base_) disk_.files[Path(name)] = content;
     disk_.files[file_] = bytes_;
-    windows_.OnModal = [this](Form& form) { UseWindow(form); };
+    windows_.OnModal = [this](const Form& form) { UseWindow(std::string(form.Name())); };
     programme_ = std::make_unique<Programme>(outside_.devices.Join(settings_, outside_.messages, outside_.dialogs,
                                                                    outside_.clock, windows_, disk_, kFolder));
     programme_->Recoit([&] { programme_->Fenetre<DDFM>(); });
@@ -156,25 +156,32 @@ class FolderTarget {
     }
   }
 
+  /// The window of that name, while it is open in a program that lives.
+  Form* Open(const std::string& name) const {
+    return programme_->Termine_Deja() ? nullptr : programme_->Cherche_Fenetre(name);
+  }
+
   /// Every control of a window once. Any of them may close it.
-  void UseWindow(Form& form) {
-    const std::string name = form.Name();
+  void UseWindow(const std::string& name) {
     for (std::size_t i = 0; i < 40; ++i) {
-      const Form* open = programme_->Cherche_Fenetre(name);
-      if (programme_->Termine_Deja() || open != &form || i >= form.Controls().size()) return;
-      programme_->Recoit([&] { Click(*form.Controls()[i]); });
+      Form* form = Open(name);
+      if (!form || i >= form->Controls().size()) return;
+      programme_->Recoit([&] { Click(*form->Controls()[i]); });
     }
   }
 
   void UseWindows() {
-    for (int turn = 0; turn < 3 && programme_ && !programme_->Termine_Deja(); ++turn)
-      for (Form* form : programme_->Fenetres())
-        if (!form->Main() && programme_->Cherche_Fenetre(form->Name()) == form && !programme_->Termine_Deja()) {
-          UseWindow(*form);
-          if (!programme_->Termine_Deja() && programme_->Cherche_Fenetre(form->Name()) == form)
-            programme_->Recoit([&] { form->UserClose(); });
-        }
-    if (programme_) Judge();
+    if (!programme_) return;
+    for (int turn = 0; turn < 3; ++turn) {
+      std::vector<std::string> names;
+      for (const Form* form : programme_->Fenetres())
+        if (!form->Main()) names.push_back(form->Name());
+      for (const std::string& name : names) {
+        UseWindow(name);
+        if (Form* form = Open(name)) programme_->Recoit([&] { form->UserClose(); });
+      }
+    }
+    Judge();
   }
 
   static std::vector<std::string> Lines(const std::string& log) {
@@ -209,7 +216,8 @@ class FolderTarget {
       Type(Main().Debut_A, "10:00");
     });
     if (!entered || programme_->contexte.Station_Indicatif != "F9QZX") return;
-    const auto before = Lines(Log());
+    // Zeros at the end are no line: a save cuts them off.
+    const auto before = Lines(Log().substr(0, Log().find_last_not_of('\0') + 1));
     const bool saved = Deed([&] {
       Main().Enregistrer.SetEnabled(true);
       Main().Enregistrer.UserClick();

@@ -95,8 +95,9 @@ TEST_F(MultiQsl, ABatchThatTheDiskStopsLeavesWhatTheCardsOneByOneWould) {
   std::string log;
   for (const auto& [band, department] : {std::pair("144 Mhz", "06"), std::pair("144 Mhz", "07"), {"14 Mhz", "08"}})
     log += Construit_Ligne(Contact({"12/05/03", "F6ABC", "", "", department, "JN33BB", band})) + "\r\n";
-  const char* const faults[] = {"read F9QZX.log", "write Temporaire4.txt", "copy Temporaire4.txt F9QZX.log",
-                                "delete Temporaire4.txt", "read F9QZX_Departement.txt"};
+  const char* const faults[] = {
+      "read F9QZX.log",         "write Temporaire4.txt",      "copy Temporaire4.txt F9QZX.log",
+      "delete Temporaire4.txt", "read F9QZX_Departement.txt", "read F9QZX_Locator.txt"};
   for (const char* fault : faults) {
     std::string outcomes[2];
     for (const bool batch : {false, true}) {
