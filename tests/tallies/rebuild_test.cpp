@@ -145,7 +145,7 @@ TEST_F(Rebuild, LinesThatEndEarly) {
     Champs_QSO contact;
     contact.Depart_A = department;
     contact.Bande_A = "14 Mhz";
-    contact.Bloc_QSL[7] = state;
+    contact.Bloc_QSL[0] = state;
     return Construit_Ligne(contact);
   };
   WriteLines("F9QZX.log", {line("06", '3'), line("07", ' '), line("08", '1').substr(0, 134), line("08", ' ')});
