@@ -184,9 +184,11 @@ class FolderTarget {
     Judge();
   }
 
-  static std::vector<std::string> Lines(const std::string& log) {
+  /// What a save or an edit keeps of the lines. Zeros at the end of the log are no line: a save cuts them off.
+  static std::vector<std::string> Lines(std::string_view log) {
     std::vector<std::string> lines;
-    for (Lecteur_Lignes reader(log); !reader.Fini();) lines.emplace_back(reader.Suivante().substr(0, kLargeur_Ligne));
+    for (Lecteur_Lignes reader(log.substr(0, log.find_last_not_of('\0') + 1)); !reader.Fini();)
+      lines.emplace_back(reader.Suivante().substr(0, kLargeur_Ligne));
     return lines;
   }
 
