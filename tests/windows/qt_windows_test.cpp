@@ -277,10 +277,14 @@ TEST(SmallScreen, HoldsTheMainWindow) {
       return QString();
     };
     EXPECT_TRUE(QTest::qWaitFor([&] { return cut().isEmpty(); })) << qPrintable(cut());
-    const QSize least = window->findChild<QWidget*>(QStringLiteral("corps"))->minimumSizeHint();
-    const QSize room = window->findChild<QScrollArea*>(QStringLiteral("page"))->size();
-    EXPECT_TRUE(least.width() <= room.width() && least.height() <= room.height())
-        << qPrintable(QStringLiteral("%1x%2 in %3x%4").arg(least.width()).arg(least.height()).arg(room.width()).arg(room.height()));
+    QSize least, room;
+    const auto fits = [&] {
+      least = window->findChild<QWidget*>(QStringLiteral("corps"))->minimumSizeHint();
+      room = window->findChild<QScrollArea*>(QStringLiteral("page"))->size();
+      return least.width() <= room.width() && least.height() <= room.height();
+    };
+    EXPECT_TRUE(QTest::qWaitFor(fits)) << qPrintable(
+        QStringLiteral("%1x%2 in %3x%4").arg(least.width()).arg(least.height()).arg(room.width()).arg(room.height()));
     for (const QPushButton* button : window->findChildren<QPushButton*>())
       EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width()) << qPrintable(button->text());
     // A box keeps room for its words when the letters have grown.
