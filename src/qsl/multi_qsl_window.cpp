@@ -47,7 +47,7 @@ void Multi_QSL::Recherche_Click() {
   const std::string motif = Majuscules(Indicatif.Text());
   // The state of a contact that has the other card alone lacks this one.
   const std::string_view autre = Option1.Set() ? "3" : "2";
-  for (const std::string& ligne : programme_.Principale().Journal().Items()) {
+  for (const std::string_view ligne : programme_.Principale().Journal().Items()) {
     const std::string_view etat = Lit_Liste(ligne, champs::Etat_QSL);
     if (Lit_Liste(ligne, champs::Indicatif_A).find(motif) == std::string_view::npos) continue;
     if (etat == "1" || etat == autre) Liste_QSO.AddItem(ligne);
@@ -64,7 +64,7 @@ bool Multi_QSL::Enregistre_Coches() {
   try {
     for (int i = 0; i < Liste_QSO.Count(); ++i) {
       if (!Liste_QSO.Checked(i)) continue;
-      const std::string& element = Liste_QSO.Item(i);
+      const std::string_view element = Liste_QSO.Item(i);
       saisie.Etat_QSL_Courant = static_cast<int>(Valeur(Lit_Liste(element, champs::Etat_QSL)));
       const int numero = static_cast<int>(Valeur(Coupe(element, 1, kColonnes_Numero - 1)));
       saisie.Ligne_Selection = log.Item(numero - 1);

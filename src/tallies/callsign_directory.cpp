@@ -64,9 +64,9 @@ void Charge_Nomenclature(Programme& programme) {
   for (Lecteur_Champs fiches(texte); !fiches.Fini();) liste.AddItem(fiches.Suivant());
 }
 
-void Ecrit_Nomenclature(Programme& programme, const std::vector<std::string>& lignes) {
+void Ecrit_Nomenclature(Programme& programme, const Rows& lignes) {
   std::string texte;
-  for (const std::string& ligne : lignes) texte.append(ligne).append(kFin_De_Ligne);
+  for (const std::string_view ligne : lignes) texte.append(ligne).append(kFin_De_Ligne);
   programme.Disque().WriteAll(programme.Chemin(kFichier), texte);
 }
 

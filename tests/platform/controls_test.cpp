@@ -3,6 +3,7 @@
 #include "core/programme.h"
 #include "core/text.h"
 #include "support/error_of.h"
+#include "support/rows.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -155,20 +156,20 @@ TEST_F(Controls, ManyRowsAtOnceAreAsOneByOne) {
     page.sorted.AddItems(first);
     page.sorted.SetListIndex(selected);
     for (const std::string& row : more) page.sorted.AddItem(row);
-    const Lines rows = page.sorted.Items();
+    const Lines rows = Texts(page.sorted.Items());
     const int index = page.sorted.ListIndex();
     page.sorted.ClearItems();
     page.sorted.AddItems(first);
     page.sorted.SetListIndex(selected);
     page.sorted.AddItems(more);
-    EXPECT_EQ(page.sorted.Items(), rows);
+    EXPECT_EQ(Texts(page.sorted.Items()), rows);
     EXPECT_EQ(page.sorted.ListIndex(), index);
   }
 }
 
 TEST_F(Controls, SortedListGoesByBytesEqualOnesByArrival) {
   for (const char* row : {"b", "a", "\xE9", "Z", "a ", "b", " z"}) page.sorted.AddItem(row);
-  EXPECT_EQ(page.sorted.Items(), (Lines{" z", "Z", "a", "a ", "b", "b", "\xE9"}));
+  EXPECT_EQ(Texts(page.sorted.Items()), (Lines{" z", "Z", "a", "a ", "b", "b", "\xE9"}));
   // Equal rows can't be told apart by their text: the selection, which stays on its row, tells where the new one went.
   page.sorted.SetListIndex(4);
   page.sorted.AddItem("b");

@@ -1,0 +1,36 @@
+#include "platform/rows.h"
+
+namespace vorelio {
+
+void Rows::Reserve(std::size_t rows, std::size_t characters) {
+  ends_.reserve(rows);
+  texts_.reserve(characters);
+}
+
+void Rows::Clear() {
+  ends_.clear();
+  texts_.clear();
+}
+
+void Rows::Append(std::string_view text) {
+  texts_.append(text);
+  ends_.push_back(texts_.size());
+}
+
+void Rows::Insert(std::size_t row, std::string_view text) {
+  const std::size_t begin = Begin(row);
+  texts_.insert(begin, text);
+  ends_.insert(ends_.begin() + static_cast<std::ptrdiff_t>(row), begin);
+  for (std::size_t i = row; i < ends_.size(); ++i) ends_[i] += text.size();
+}
+
+void Rows::Erase(std::size_t row) {
+  const std::size_t begin = Begin(row), length = ends_[row] - begin;
+  texts_.erase(begin, length);
+  ends_.erase(ends_.begin() + static_cast<std::ptrdiff_t>(row));
+  for (std::size_t i = row; i < ends_.size(); ++i) ends_[i] -= length;
+}
+
+void Rows::WriteOver(std::size_t row, std::string_view head) { texts_.replace(Begin(row), head.size(), head); }
+
+}  // namespace vorelio
