@@ -34,6 +34,12 @@ std::string Date_Du_Jour(Programme& programme) {
   return Deux_Chiffres(instant.day) + "/" + Deux_Chiffres(instant.month) + "/" + std::to_string(instant.year);
 }
 
+std::string Horodatage(Programme& programme) {
+  const Instant instant = programme.plateforme.clock.Local();
+  std::string texte = std::to_string(instant.year) + Deux_Chiffres(instant.month) + Deux_Chiffres(instant.day) + "-";
+  return texte + Deux_Chiffres(instant.hour) + Deux_Chiffres(instant.minute) + Deux_Chiffres(instant.second);
+}
+
 std::string Heure_UTC(Programme& programme) { return Heure(programme.plateforme.clock.Utc()); }
 std::string Heure_Locale(Programme& programme) { return Heure(programme.plateforme.clock.Local()); }
 

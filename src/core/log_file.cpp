@@ -4,6 +4,7 @@
 
 #include "core/calendar.h"
 #include "core/loading_window.h"
+#include "core/log_guard.h"
 #include "core/log_line.h"
 #include "core/main_window.h"
 #include "core/text.h"
@@ -18,7 +19,7 @@ void Reecrit_Log(Programme& programme, const ListBox& liste) {
   std::string texte;
   texte.reserve(static_cast<std::size_t>(liste.Count()) * (kLargeur_Ligne + kFin_De_Ligne.size()));
   for (const std::string_view element : liste.Items()) texte.append(Partie_Log(element)).append(kFin_De_Ligne);
-  programme.Disque().WriteAll(programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
+  Remplace_Log(programme, programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
 }
 
 /// The list has room for a log of the file's size at once: it doesn't grow line by line.
@@ -49,6 +50,18 @@ int Place_Par_Date(const ListBox& liste, std::string_view ligne) {
   return static_cast<int>(place - liste.Items().begin());
 }
 
+/// The log into the main window's list, which from then on stands for the file.
+void Lit_Liste_QSO(Programme& programme, const std::string& log, std::string_view station) {
+  auto& contexte = programme.contexte;
+  Oublie_Log(programme, log);
+  contexte.Log_Non_Lu = log;
+  // As it stood before it was read: what comes in meanwhile isn't in the list.
+  const auto empreinte = programme.Disque().Stamp(log);
+  Liste_Log(programme, station, programme.Principale().Journal());
+  if (empreinte) contexte.Empreintes_Logs[log] = *empreinte;
+  contexte.Log_Non_Lu.clear();
+}
+
 }  // namespace
 
 std::string Texte_Log(Programme& programme) {
@@ -73,7 +86,7 @@ void Charge_Log(Programme& programme, std::string_view station) {
   auto& chargement = programme.Fenetre<Chargement>();
   principale.Hide();
   chargement.Show();
-  Liste_Log(programme, station, principale.Journal());
+  Lit_Liste_QSO(programme, programme.Chemin_Log(station), station);
   programme.contexte.Nb_QSO = principale.Journal().Count();
   principale.Annonce_Numero(programme.contexte.Nb_QSO + 1);
   chargement.Hide();
@@ -81,8 +94,11 @@ void Charge_Log(Programme& programme, std::string_view station) {
 }
 
 void Ajoute_Ligne_Log(Programme& programme, std::string_view ligne) {
-  programme.Disque().Append(programme.Chemin_Log(programme.contexte.Station_Indicatif),
-                            std::string(ligne).append(kFin_De_Ligne));
+  const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
+  // What others have added since stays unknown: the list hasn't got it.
+  const bool connu = Log_Connu(programme, log);
+  programme.Disque().AppendLine(log, ligne);
+  if (connu) Note_Log(programme, log);
 }
 
 void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::string_view nouvelle) {
@@ -96,6 +112,9 @@ void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::stri
 }
 
 void Insere_QSO_Log(Programme& programme, std::string_view ligne) {
+  // The list of a log that couldn't be read is empty: the contact must not be all that is left of it.
+  const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
+  if (programme.contexte.Log_Non_Lu == log) Lit_Liste_QSO(programme, log, programme.contexte.Station_Indicatif);
   ListBox& liste = programme.Principale().Journal();
   // A tie goes to the new contact.
   const int place = Place_Par_Date(liste, ligne);

@@ -1,36 +1,46 @@
 #include "core/log_line.h"
 
+#include "core/errors.h"
+
 namespace vorelio {
 
 std::string Champs_QSO::Bloc_Sans_QSL() { return Blancs(7) + "1 " + Blancs(18); }
 
 std::string Construit_Ligne(const Champs_QSO& qso) {
-  const auto champ = [](const std::string& texte, const Champ& place) {
-    return Complete(texte, place.largeur, place.ecart);
-  };
   std::string ligne;
   ligne.reserve(kLargeur_Ligne);
-  ligne += champ(qso.Date_A, champs::Date_A);
-  ligne += champ(qso.Indicatif_A, champs::Indicatif_A);
-  ligne += champ(qso.Debut_A, champs::Debut_A);
-  ligne += champ(qso.Fin_A, champs::Fin_A);
-  ligne += champ(qso.Depart_A, champs::Depart_A);
-  ligne += champ(qso.Locator_A, champs::Locator_A);
-  ligne += champ(qso.Bande_A, champs::Bande_A);
-  ligne += champ(qso.Mode_A, champs::Mode_A);
-  ligne += champ(qso.RSTE_A, champs::RSTE_A);
-  ligne += champ(qso.RSTR_A, champs::RSTR_A);
-  ligne += champ(qso.QTH_A, champs::QTH_A);
-  ligne += champ(qso.Prenom_A, champs::Prenom_A);
+  const auto champ = [&ligne](const std::string& texte, const Champ& place) {
+    Ajoute_Complete(ligne, texte, place.largeur, place.ecart);
+  };
+  champ(qso.Date_A, champs::Date_A);
+  champ(qso.Indicatif_A, champs::Indicatif_A);
+  champ(qso.Debut_A, champs::Debut_A);
+  champ(qso.Fin_A, champs::Fin_A);
+  champ(qso.Depart_A, champs::Depart_A);
+  champ(qso.Locator_A, champs::Locator_A);
+  champ(qso.Bande_A, champs::Bande_A);
+  champ(qso.Mode_A, champs::Mode_A);
+  champ(qso.RSTE_A, champs::RSTE_A);
+  champ(qso.RSTR_A, champs::RSTR_A);
+  champ(qso.QTH_A, champs::QTH_A);
+  champ(qso.Prenom_A, champs::Prenom_A);
   ligne += qso.Bloc_QSL;
-  ligne += champ(qso.Distance_A, champs::Distance_A);
-  ligne += champ(qso.Azimut_A, champs::Azimut_A);
-  ligne += champ(qso.Activ_A, champs::Activ_A);
-  ligne += champ(qso.Remarques_A, champs::Remarques_A);
+  champ(qso.Distance_A, champs::Distance_A);
+  champ(qso.Azimut_A, champs::Azimut_A);
+  champ(qso.Activ_A, champs::Activ_A);
+  champ(qso.Remarques_A, champs::Remarques_A);
   ligne += '*';
   return ligne;
 }
 
-std::string Colonne_Numero(int numero) { return Complete_Gauche(std::to_string(numero), kColonnes_Numero - 1) + " "; }
+std::string Colonne_Numero(int numero) {
+  std::string colonne(kColonnes_Numero, ' ');
+  int place = kColonnes_Numero - 1;
+  for (int reste = numero; reste > 0; reste /= 10) {
+    if (place == 0) throw Erreur_Execution(Erreur::Argument_Invalide);
+    colonne[static_cast<std::size_t>(--place)] = static_cast<char>('0' + reste % 10);
+  }
+  return colonne;
+}
 
 }  // namespace vorelio

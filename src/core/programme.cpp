@@ -21,41 +21,66 @@ std::string Programme::Chemin(std::string_view fichier) const {
   return std::string(Chemin_Programme()).append(1, plateforme.separator).append(fichier);
 }
 
-std::string Programme::Chemin_Station(std::string_view suite) const {
-  return Chemin(contexte.Station_Indicatif).append(suite);
+std::string Programme::Chemin_De(std::string_view indicatif, std::string_view suite) const {
+  return Chemin(Forme_Fichier(indicatif)).append(suite);
 }
 
-std::string Programme::Chemin_Modele(std::string_view suite) const { return Chemin(kStation_Modele).append(suite); }
+std::string Programme::Chemin_Station(std::string_view suite) const {
+  return Chemin_De(contexte.Station_Indicatif, suite);
+}
 
-std::string Programme::Chemin_Log(std::string_view station) const { return Chemin(station) + ".log"; }
+std::string Programme::Chemin_Modele(std::string_view suite) const { return Chemin_De(kStation_Modele, suite); }
+
+std::string Programme::Chemin_Log(std::string_view station) const {
+  const auto place = logs_.find(station);
+  return place == logs_.end() ? Cherche_Log(station) : place->second;
+}
+
+std::string Programme::Cherche_Log(std::string_view station) const {
+  for (const char* fin : {".log", ".Log", ".LOG", ".lOg", ".loG", ".LOg", ".LoG", ".lOG"}) {
+    const std::string chemin = Chemin_De(station, fin);
+    if (Disque().Exists(chemin)) return logs_[std::string(station)] = chemin;
+  }
+  logs_.erase(std::string(station));
+  return Chemin_De(station, ".log");
+}
+
+std::string Programme::Nouveau_Log(std::string_view station) const {
+  return logs_[std::string(station)] = Chemin_De(station, ".log");
+}
 
 // --- Boxes ----------------------------------------------------------------------------------------------------------
 
 // A box or a dialog waits for the user, and while it waits the program can be ended.
 void Programme::Message(const std::string& texte) const {
+  Cede_La_Main();
   plateforme.messages.Show(texte);
   Quitte_Si_Termine();
 }
 
 bool Programme::Question(const std::string& texte) const {
+  Cede_La_Main();
   const bool oui = plateforme.messages.Ask(texte, Buttons::YesNo, Icon::Question);
   Quitte_Si_Termine();
   return oui;
 }
 
 bool Programme::Avertissement(const std::string& texte) const {
+  Cede_La_Main();
   const bool oui = plateforme.messages.Ask(texte, Buttons::OkCancel, Icon::Critical);
   Quitte_Si_Termine();
   return oui;
 }
 
 std::string Programme::Choisit_Fichier(const std::string& filtre) const {
+  Cede_La_Main();
   std::string fichier = plateforme.dialogs.Open(Chemin_Programme(), filtre);
   Quitte_Si_Termine();
   return fichier;
 }
 
 std::string Programme::Choisit_Nom(const std::string& propose, const std::string& filtre) const {
+  Cede_La_Main();
   std::string fichier = plateforme.dialogs.Save(Chemin_Programme(), propose, filtre);
   Quitte_Si_Termine();
   return fichier;
@@ -131,7 +156,10 @@ void Programme::Recoit(const std::function<void()>& action) {
   if (termine_) return;
   ++profondeur_;
   try {
-    Evenement(action);
+    Evenement([&] {
+      Cede_La_Main();
+      action();
+    });
   } catch (const Fin_Programme&) {
     // The program has ended; whoever runs the events looks at Termine_Deja().
   }
@@ -155,7 +183,15 @@ void Programme::Traite_Evenements() {
   Quitte_Si_Termine();
 }
 
+void Programme::Cede_La_Main() const {
+  for (Tenue* tenue : tenues_) {
+    tenue->Depose();
+    tenue->interrompue_ = true;
+  }
+}
+
 void Programme::Attend_La_Fin() {
+  Cede_La_Main();
   for (;;) {
     Quitte_Si_Termine();
     plateforme.windows.WaitForEvent();
@@ -171,6 +207,11 @@ void Programme::Fin_Sur_Erreur(int numero, const std::string& texte) {
   // No event may reach the logic any more while the box waits.
   termine_ = true;
   erreur_fatale_ = numero;
+  try {
+    Cede_La_Main();
+  } catch (const Erreur_Execution&) {
+    // The first error is the one to tell.
+  }
   plateforme.messages.Fatal(numero, texte);
   Termine();
 }

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/entry_state.h"
-#include "core/held_disk.h"
+#include "core/held_work.h"
 #include "core/settings.h"
 #include "core/station_context.h"
 #include "platform/controls.h"
@@ -33,17 +34,25 @@ class Programme {
 
   // --- Files ---
 
-  Disque_Tenu& Disque() const { return disque_; }
+  Disk& Disque() const { return *disque_; }
   /// The program's directory, `Chemin_Programme`.
   const std::string& Chemin_Programme() const { return plateforme.directory; }
   /// Directory, separator, file name.
   std::string Chemin(std::string_view fichier) const;
-  /// The file of the current station: its callsign and `suite`, for instance "_Departement.txt".
+  /// The file that a callsign gives its name to: the callsign in its file form and `suite`, for instance
+  /// "_Departement.txt". Whatever has been typed for the callsign, the file lies in the program's directory.
+  std::string Chemin_De(std::string_view indicatif, std::string_view suite) const;
+  /// The same of the current station.
   std::string Chemin_Station(std::string_view suite) const;
   /// The same of the template station.
   std::string Chemin_Modele(std::string_view suite) const;
-  /// The log of a station. It is one file, whatever the case of its ending.
+  /// The log of a station: one file, whatever the case of its ending. ".log" goes before the others, and is the ending
+  /// of a log that is still to be made. What has been found is remembered.
   std::string Chemin_Log(std::string_view station) const;
+  /// The same of a log that may have come or gone since.
+  std::string Cherche_Log(std::string_view station) const;
+  /// The same of a station that is being made.
+  std::string Nouveau_Log(std::string_view station) const;
 
   // --- Boxes ---
 
@@ -121,6 +130,8 @@ class Programme {
  private:
   friend class Form;
   friend class Control;
+  friend class Disque_Groupe;
+  friend class Tenue;
 
   void Charge(std::unique_ptr<Form> forme);
   void Decharge(Form& forme);
@@ -128,8 +139,12 @@ class Programme {
   void Prend_Focus(Control& controle);
   void Note_Focus(Control& controle);
   void Fin_Sur_Erreur(int numero, const std::string& texte);
+  /// Before anybody else gets a turn: what long procedures hold in memory goes to the disk.
+  void Cede_La_Main() const;
 
-  mutable Disque_Tenu disque_{plateforme.disk};
+  mutable std::map<std::string, std::string, std::less<>> logs_;  ///< Paths by station.
+  Disk* disque_ = &plateforme.disk;
+  std::vector<Tenue*> tenues_;
   std::vector<std::unique_ptr<Form>> formes_;
   std::vector<std::unique_ptr<Form>> quittees_;
   Control* focus_ = nullptr;

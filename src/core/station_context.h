@@ -1,6 +1,9 @@
 #pragma once
 
+#include <map>
 #include <string>
+
+#include "platform/disk.h"
 
 namespace vorelio {
 
@@ -18,6 +21,8 @@ struct Contexte_Station {
   std::string Chemin_Sauvegarde;  ///< Base path of the backups; file name endings are joined to it as it stands.
   double Numero_Sauvegarde = 0;   ///< `Nb_QSO` at the last automatic backup.
   std::string Delta_Sauvegarde;   ///< Contacts between two automatic backups, as number text.
+  std::map<std::string, FileStamp> Empreintes_Logs;  ///< By path, the logs as this run last loaded or wrote them.
+  std::string Log_Non_Lu;  ///< Path of the log whose load has failed: the list holds a part of it at best.
 };
 
 inline constexpr const char* kStation_Modele = "FXXXX";       ///< The template station, before the first run.

@@ -172,7 +172,7 @@ void Station::Validation_Click() {
 
   // Only a log that isn't there makes a new station. One that merely can't be read now must not be copied over.
   bool fichier_absent = false;
-  Essaie([&] { fichier_absent = !programme_.Disque().Exists(programme_.Chemin_Log(indicatif)); });
+  Essaie([&] { fichier_absent = !programme_.Disque().Exists(programme_.Cherche_Log(indicatif)); });
 
   auto& principale = programme_.Principale();
   programme_.contexte.Station_Indicatif = indicatif;
@@ -213,7 +213,7 @@ void Station::Cree_Station(const std::string& indicatif, const std::string& loca
   Essaie([&] { Ecrit_Fichier_Activites(programme_); });
   programme_.contexte.Numero_Sauvegarde = 0;
   Essaie([&] {
-    reglages.Ecrit_Station("Chemin Sauvegarde", programme_.Chemin(indicatif));
+    reglages.Ecrit_Station("Chemin Sauvegarde", programme_.Chemin_De(indicatif, ""));
     reglages.Ecrit_Station("Delta Sauvegarde", "10");
   });
 }

@@ -84,7 +84,15 @@ std::string Blancs(int nombre) {
 }
 
 std::string Complete(std::string_view texte, int largeur, int ecart) {
-  return std::string(texte) + Blancs(largeur + ecart - static_cast<int>(texte.size()));
+  std::string ligne;
+  Ajoute_Complete(ligne, texte, largeur, ecart);
+  return ligne;
+}
+
+void Ajoute_Complete(std::string& ligne, std::string_view texte, int largeur, int ecart) {
+  const auto total = static_cast<std::size_t>(largeur + ecart);
+  if (texte.size() > total) throw Erreur_Execution(Erreur::Argument_Invalide);
+  ligne.append(texte).append(total - texte.size(), ' ');
 }
 
 std::string Complete_Gauche(std::string_view texte, int largeur) {
@@ -107,6 +115,14 @@ std::string Majuscules(std::string_view texte) {
   std::string haut(texte);
   for (char& octet : haut) octet = table[static_cast<unsigned char>(octet)];
   return haut;
+}
+
+std::string Forme_Fichier(std::string_view texte) {
+  std::string nom(texte);
+  for (char& octet : nom)
+    if (octet == '/' || octet == '\\' || octet == ':' || static_cast<unsigned char>(octet) < ' ') octet = '_';
+  if (nom.starts_with('.')) nom.front() = '_';
+  return nom;
 }
 
 // --- Numbers --------------------------------------------------------------------------------------------------------

@@ -123,6 +123,8 @@ std::string Blancs(int nombre);
 /// The text, filled with blanks to `largeur` plus `ecart`. A text that is longer than the width uses the gap;
 /// beyond it the count of blanks turns negative: run-time error 5.
 std::string Complete(std::string_view texte, int largeur, int ecart = 0);
+/// Appends the same to `ligne`.
+void Ajoute_Complete(std::string& ligne, std::string_view texte, int largeur, int ecart = 0);
 
 /// The text with blanks in front to `largeur`; longer is run-time error 5.
 std::string Complete_Gauche(std::string_view texte, int largeur);
@@ -131,6 +133,10 @@ std::string Complete_Gauche(std::string_view texte, int largeur);
 
 /// Upper case over the whole character set, accented letters included.
 std::string Majuscules(std::string_view texte);
+
+/// A text as a part of a file's name: "_" for each separator and control character, and for a point in front. A
+/// callsign such as F6ABC/P has its files under F6ABC_P.
+std::string Forme_Fichier(std::string_view texte);
 
 /// The capital of a typed letter a to z; accented letters and all else stay as they are.
 constexpr int Touche_Majuscule(int touche) { return touche >= 97 && touche <= 122 ? touche - 32 : touche; }

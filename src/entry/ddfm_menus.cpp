@@ -1,5 +1,6 @@
 #include "cluster/cluster_window.h"
 #include "core/log_file.h"
+#include "core/log_guard.h"
 #include "core/station_files.h"
 #include "core/station_form.h"
 #include "core/text.h"
@@ -121,7 +122,10 @@ void DDFM::Mnu_RAZ_All_Click() {
   if (!programme_.Avertissement("!!! ATTENTION !!! tout les fichiers " + contexte.Station_Indicatif +
                                 " vont etre effacé , Continuer ?"_t))
     return;
-  for (const char* suite : {".log", kSuite_Departement, kSuite_Prefixe, kSuite_Locator})
+  const std::string log = programme_.Chemin_Log(contexte.Station_Indicatif);
+  Protege_Log(programme_, log);
+  programme_.Disque().Copy(programme_.Chemin_Modele(".log"), log);
+  for (const char* suite : {kSuite_Departement, kSuite_Prefixe, kSuite_Locator})
     programme_.Disque().Copy(programme_.Chemin_Modele(suite), programme_.Chemin_Station(suite));
   Bande_A.SetEnabled(true);
   Bande_A.SetFocus();

@@ -99,8 +99,8 @@ void Exporter_QSO::Cherche_Double(const Compagnon& compagnon, const std::string&
   programme_.contexte.Station_Indicatif = station;
   const std::string annee =
       compagnon.tournoi ? Reglage(compagnon, kSection + station, "Annee Tournoi", "XXXX") : std::string();
-  std::string chemin = dossier + separateur + station;
-  chemin.append(compagnon.suite).append(annee).append(compagnon.fin);
+  std::string chemin = dossier + separateur + Forme_Fichier(station);
+  chemin.append(compagnon.suite).append(Forme_Fichier(annee)).append(compagnon.fin);
 
   const Deja_Contacte connu = Cherche_Reference(compagnon, programme_.Disque().ReadAll(chemin), reference);
   if (connu.trouve) {

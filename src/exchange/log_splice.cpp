@@ -6,6 +6,7 @@
 #include "core/calendar.h"
 #include "core/errors.h"
 #include "core/log_file.h"
+#include "core/log_guard.h"
 #include "core/log_line.h"
 #include "core/main_window.h"
 #include "core/text.h"
@@ -69,6 +70,17 @@ std::string Compte(std::size_t nombre, const std::string& un, const std::string&
   return std::to_string(nombre) + " " + (nombre < 2 ? un : plusieurs);
 }
 
+/// The log without its markers, from what the work file holds.
+std::string Sans_Reperes(std::string_view lignes) {
+  std::string log;
+  log.reserve(lignes.size());
+  for (Lecteur_Lignes reste(lignes); !reste.Fini();) {
+    const std::string_view ligne = reste.Suivante();
+    if (!Est_Repere(ligne)) Ajoute_Ligne(log, ligne);
+  }
+  return log;
+}
+
 }  // namespace
 
 std::string Ligne_Repere(std::string_view heures) {
@@ -99,22 +111,22 @@ bool Import_Log::Choisit_Fichier() {
 
 void Import_Log::Insere(const Premier_Moment& premier, const std::vector<std::string_view>& enregistrements,
                         const std::function<Ligne_Importee(std::string_view enregistrement)>& convertit) {
-  Disque_Tenu& disque = programme_.Disque();
+  Disk& disque = programme_.Disque();
   const std::string travail = programme_.Chemin(genre_.temporaire);
   std::string log = disque.ReadAll(log_);
   std::string debut, bloc;
-  Disque_Tenu::Tenue tenue(disque, [&](Disk& disk) { disk.WriteAll(travail, debut + bloc); });
+  Tenue tenue(programme_, [&] { disque.WriteAll(travail, debut + bloc); });
   tenue.Modifie();
-
-  const Moment moment = Moment_Complet(premier.date, premier.heure);
-  std::optional<Copie_Log> copie(std::in_place, log, genre_);
-  if (copie->Copie_Avant(moment, debut)) {
+  tenue.Pendant([&] {
+    const Moment moment = Moment_Complet(premier.date, premier.heure);
+    std::optional<Copie_Log> copie(std::in_place, log, genre_);
+    if (!copie->Copie_Avant(moment, debut)) return;
     for (const std::string_view enregistrement : enregistrements) {
       Prend(convertit(enregistrement), bloc);
       tenue.Modifie();
       programme_.Traite_Evenements();
     }
-    if (tenue.Disque_Touche()) {
+    if (tenue.Interrompue()) {
       // A contact may have come into the log meanwhile. The marker too may be gone: then the end is the place.
       log = disque.ReadAll(log_);
       debut.clear();
@@ -125,13 +137,10 @@ void Import_Log::Insere(const Premier_Moment& premier, const std::vector<std::st
     bloc.clear();
     tenue.Modifie();
     copie->Copie_Reste(debut);
-  }
+  });
   lues_ = enregistrements.size();
-  tenue.Modifie();
-  tenue.Depose();
 
-  disque.Delete(log_);
-  Remplace_Log(debut);
+  garde_ = Remplace_Log(programme_, log_, Sans_Reperes(debut));
   disque.Delete(travail);
 }
 
@@ -145,17 +154,6 @@ void Import_Log::Prend(const Ligne_Importee& lue, std::string& bloc) {
   if (lues_ % kPas_Annonce == 0) Annonce_Avance();
 }
 
-/// The log without its markers, from what the work file holds.
-void Import_Log::Remplace_Log(std::string_view lignes) {
-  std::string log;
-  log.reserve(lignes.size());
-  for (Lecteur_Lignes reste(lignes); !reste.Fini();) {
-    const std::string_view ligne = reste.Suivante();
-    if (!Est_Repere(ligne)) Ajoute_Ligne(log, ligne);
-  }
-  programme_.Disque().WriteAll(log_, log);
-}
-
 void Import_Log::Annonce_Avance() {
   programme_.Principale().Dit(std::string("Import ").append(genre_.nom) + " : enregistrement n° "_t +
                               std::to_string(lues_));
@@ -167,7 +165,7 @@ void Import_Log::Recharge() {
   principale.Journal().SetListIndex(principale.Journal().Count() - 1);
   principale.Dit(std::string("Import ").append(genre_.nom) + " : " +
                  Compte(lues_, "enregistrement lu", "enregistrements lus") + ", " +
-                 Compte(ajoutees_, "ligne ajoutée"_t, "lignes ajoutées"_t));
+                 Compte(ajoutees_, "ligne ajoutée"_t, "lignes ajoutées"_t) + (garde_.empty() ? "" : ". " + garde_));
 }
 
 }  // namespace vorelio

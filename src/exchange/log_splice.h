@@ -56,7 +56,6 @@ class Import_Log {
 
  private:
   void Prend(const Ligne_Importee& lue, std::string& bloc);
-  void Remplace_Log(std::string_view lignes);
   void Annonce_Avance();
   void Active_Menus(bool actif);
 
@@ -66,6 +65,7 @@ class Import_Log {
   std::string fichier_;
   std::size_t lues_ = 0;
   std::size_t ajoutees_ = 0;
+  std::string garde_;  ///< What is to be said of a log that was kept.
 };
 
 }  // namespace vorelio

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "core/log_guard.h"
 #include "core/station_files.h"
 #include "core/text.h"
 
@@ -43,6 +44,7 @@ void Sauvegarde_Auto(Programme& programme) {
 
 void Restaure_Sauvegarde(Programme& programme) {
   const std::string base = Relit_Chemin(programme);
+  Protege_Log(programme, programme.Chemin_Log(programme.contexte.Station_Indicatif));
   for (const auto& [fichier, copie] : Fichiers(programme, base)) programme.Disque().Copy(copie, fichier);
 }
 

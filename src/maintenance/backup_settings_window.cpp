@@ -1,5 +1,7 @@
 #include "maintenance/backup_settings_window.h"
 
+#include "core/text.h"
+
 namespace vorelio {
 
 Delta_QSO::Delta_QSO(Programme& programme)
@@ -20,7 +22,7 @@ void Delta_QSO::Form_Load() {
 
 void Delta_QSO::New_Rep_Click() {
   auto& contexte = programme_.contexte;
-  const std::string chemin = programme_.Choisit_Nom(contexte.Station_Indicatif, "");
+  const std::string chemin = programme_.Choisit_Nom(Forme_Fichier(contexte.Station_Indicatif), "");
   if (chemin.empty()) return programme_.Message("selectionnez un fichier ou quitter");
   contexte.Chemin_Sauvegarde = chemin;
   Le_Chemin.SetCaption(chemin);

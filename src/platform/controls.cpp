@@ -180,6 +180,11 @@ void ListControl::EraseAt(int index) {
   Notify(Property::Items);
 }
 
+void ListControl::ReplaceAt(int index, std::string_view text) {
+  items_[static_cast<std::size_t>(index)] = text;
+  Notify(Property::Items);
+}
+
 ListBox::ListBox(Form& form, std::string_view name, Kind kind) : ListControl(form, name), kind_(kind) {}
 
 void ListBox::AddItem(std::string_view text) {
@@ -203,6 +208,11 @@ void ListBox::RemoveItem(int index) {
   if (index < 0 || index >= Count()) throw Erreur_Execution(Erreur::Argument_Invalide);
   if (kind_ == Kind::Checked) checked_.erase(checked_.begin() + index);
   EraseAt(index);
+}
+
+void ListBox::SetItem(int index, std::string_view text) {
+  if (index < 0 || index >= Count()) throw Erreur_Execution(Erreur::Argument_Invalide);
+  ReplaceAt(index, text);
 }
 
 void ListBox::ClearItems() {

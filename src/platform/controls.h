@@ -190,6 +190,7 @@ class ListControl : public Control {
   /// Puts sorted rows among the sorted ones that are there, after equal ones.
   void Merge(const std::vector<std::string>& texts);
   void EraseAt(int index);
+  void ReplaceAt(int index, std::string_view text);
 
  private:
   Rows items_;
@@ -211,6 +212,8 @@ class ListBox : public ListControl {
   /// Removes a row; an index outside the list is run-time error 5. The removal of the selected row leaves none
   /// selected; no click.
   void RemoveItem(int index);
+  /// Gives a row another text, at its place; an index outside the list is run-time error 5.
+  void SetItem(int index, std::string_view text);
   void ClearItems() override;
 
   /// Text of the selected row, empty if none is.

@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <limits>
+#include <memory>
 #include <utility>
 
 #include "core/errors.h"
@@ -125,7 +127,7 @@ int TakeRoom(const Descriptor& file, std::size_t size) {
   return error == EOPNOTSUPP || error == ENOSYS || error == EINVAL ? 0 : error;
 }
 
-int Cut(const Descriptor& file, std::size_t size) {
+int CutTo(const Descriptor& file, std::size_t size) {
   return Error(Retry([&] { return ftruncate(file.Number(), static_cast<off_t>(size)); }));
 }
 
@@ -141,13 +143,102 @@ int FlushFolder(const std::string& name) {
   return folder ? Flush(folder) : 0;
 }
 
+// --- Replacing ------------------------------------------------------------------------------------------------------
+
+/// What a replacement came to.
+enum class Replaced { Yes, Impossible };
+
+/// A file beside the one that it is to replace. Until it has taken that one's name, it goes again when this ends.
+class Beside {
+ public:
+  explicit Beside(const std::string& name) : final_(name), name_(name + ".neuf") {
+    unlink(name_.c_str());
+    file_ = Descriptor(
+        Retry([&] { return open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666); }));
+    error_ = file_ ? 0 : errno;
+    made_ = error_ == 0;
+  }
+  ~Beside() {
+    if (made_) unlink(name_.c_str());
+  }
+  Beside(const Beside&) = delete;
+  Beside& operator=(const Beside&) = delete;
+
+  /// Why it couldn't be made, 0 if it has been.
+  int MakingError() const { return error_; }
+
+  /// Takes over mode and owner of the old file; false if that can't be done.
+  bool TakeAfter(const struct stat& old) const {
+    struct stat mine {};
+    if (fstat(file_.Number(), &mine) < 0) return false;
+    const bool own = mine.st_uid == old.st_uid && mine.st_gid == old.st_gid;
+    return (own || fchown(file_.Number(), old.st_uid, old.st_gid) == 0) &&
+           fchmod(file_.Number(), old.st_mode & 07777) == 0;
+  }
+
+  int Write(std::string_view data) const {
+    if (const int error = WriteAt(file_, data, 0)) return error;
+    return Flush(file_);
+  }
+
+  int TakeName() {
+    const int error = Error(rename(name_.c_str(), final_.c_str()));
+    made_ = error != 0;
+    return error;
+  }
+
+ private:
+  std::string final_;
+  std::string name_;
+  Descriptor file_{-1};
+  int error_ = 0;
+  bool made_ = false;
+};
+
+/// Whether a failure to make or name a file says something of the device; else it says that the place doesn't allow it.
+bool OfTheDevice(int error) { return error == ENOSPC || error == EDQUOT || error == EIO; }
+
+/// The file that a name leads to over its links; the name itself where it leads nowhere yet.
+std::string BehindLinks(const std::string& name) {
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(name.c_str(), nullptr), &std::free);
+  return real ? real.get() : name;
+}
+
+/// Puts a new file in the place of `name`. Impossible, with nothing done, for what is no plain file of one name in a
+/// folder that can be written. An error is raised with the old file as it was.
+Replaced Replace(const std::string& path, const std::string& name, std::string_view data) {
+  const std::string file = BehindLinks(name);
+  struct stat old {};
+  const bool exists = lstat(file.c_str(), &old) == 0;
+  if (!exists && errno != ENOENT) Fail(errno, path, name, Folder::Told);
+  if (exists) {
+    if (!S_ISREG(old.st_mode) || old.st_nlink != 1) return Replaced::Impossible;
+    // Who may not write the file may not replace it either.
+    if (faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) < 0) Fail(errno, path, name, Folder::Told);
+  }
+  const auto check = [&](int error) {
+    if (error != 0) Fail(error, path, name, Folder::Told);
+  };
+  Beside fresh(file);
+  if (OfTheDevice(fresh.MakingError())) check(fresh.MakingError());
+  if (fresh.MakingError() != 0 || (exists && !fresh.TakeAfter(old))) return Replaced::Impossible;
+  check(fresh.Write(data));
+  const int naming = fresh.TakeName();
+  if (naming != 0 && !OfTheDevice(naming)) return Replaced::Impossible;
+  check(naming);
+  check(FlushFolder(file));
+  return Replaced::Yes;
+}
+
+// --- Changing in place ----------------------------------------------------------------------------------------------
+
 /// A file that is open for a change, and what is needed to leave it as it was.
 class Target {
  public:
   Target(const std::string& path, std::string name, int flags) : path_(path), name_(std::move(name)), file_(-1) {
-    file_ = Open(name_, O_WRONLY | flags);
+    file_ = Open(name_, flags);
     if (!file_ && errno == ENOENT) {
-      file_ = Open(name_, O_WRONLY | O_CREAT | flags);
+      file_ = Open(name_, O_CREAT | flags);
       created_ = static_cast<bool>(file_);
     }
     if (!file_) Fail(errno, path_, name_, Folder::Told);
@@ -170,7 +261,7 @@ class Target {
 
   /// The same, for a step before which the old contents still stand.
   void CheckOrRestore(int error) const {
-    if (error != 0 && regular_ && !created_) Cut(file_, size_);
+    if (error != 0 && regular_ && !created_) CutTo(file_, size_);
     Check(error);
   }
 
@@ -226,21 +317,70 @@ std::string PosixDisk::ReadAll(const std::string& path) {
   return data;
 }
 
-void PosixDisk::WriteAll(const std::string& path, std::string_view data) {
-  const Target target(path, SystemPath(path), 0);
+namespace {
+
+// A shorter file is cut once its contents are on the device: a length that gets there first would leave zeros.
+void WriteInPlace(const std::string& path, const std::string& name, std::string_view data) {
+  const Target target(path, name, O_WRONLY);
   if (target.Regular()) target.CheckOrRestore(TakeRoom(target.File(), data.size()));
   // The growth first: until it stands, the old contents can be had back by cutting it off.
   const std::size_t overlap = std::min(target.OldSize(), data.size());
   target.CheckOrRestore(WriteAt(target.File(), data.substr(overlap), overlap));
   target.Check(WriteAt(target.File(), data.substr(0, overlap), 0));
-  if (target.Regular()) target.Check(Cut(target.File(), data.size()));
   target.Check(Flush(target.File()));
+  if (target.Regular() && target.OldSize() > data.size()) {
+    target.Check(CutTo(target.File(), data.size()));
+    target.Check(Flush(target.File()));
+  }
   target.FlushName();
 }
 
+/// How long a file is without the zero bytes at its end, and what that end lacks of a line's.
+struct Tail {
+  std::size_t size;
+  std::string_view missing;
+};
+
+/// Errors of the system are raised as those of `target`.
+Tail TailOf(const Target& target) {
+  char block[4096];
+  std::size_t end = target.OldSize();
+  while (end > 0) {
+    const std::size_t start = (end - 1) / sizeof block * sizeof block;
+    const auto count =
+        Retry([&] { return pread(target.File().Number(), block, end - start, static_cast<off_t>(start)); });
+    target.Check(Error(static_cast<int>(count)));
+    std::size_t kept = static_cast<std::size_t>(count);
+    while (kept > 0 && block[kept - 1] == '\0') --kept;
+    if (kept > 0) {
+      const char last = block[kept - 1];
+      return {start + kept, last == '\n' ? "" : last == '\r' ? kFin_De_Ligne.substr(1) : kFin_De_Ligne};
+    }
+    end = start;
+  }
+  return {0, ""};
+}
+
+}  // namespace
+
+void PosixDisk::WriteAll(const std::string& path, std::string_view data) {
+  const std::string name = SystemPath(path);
+  if (Replace(path, name, data) == Replaced::Impossible) WriteInPlace(path, name, data);
+}
+
 void PosixDisk::Append(const std::string& path, std::string_view data) {
-  const Target target(path, SystemPath(path), O_APPEND);
+  const Target target(path, SystemPath(path), O_WRONLY | O_APPEND);
   target.CheckOrRestore(WriteAtEnd(target.File(), data));
+  target.CheckOrRestore(Flush(target.File()));
+  target.FlushName();
+}
+
+void PosixDisk::AppendLine(const std::string& path, std::string_view line) {
+  const Target target(path, SystemPath(path), O_RDWR | O_APPEND);
+  const Tail tail = target.Regular() ? TailOf(target) : Tail{0, ""};
+  if (target.Regular() && tail.size < target.OldSize()) target.Check(CutTo(target.File(), tail.size));
+  const std::string text = std::string(tail.missing).append(line).append(kFin_De_Ligne);
+  target.CheckOrRestore(WriteAtEnd(target.File(), text));
   target.CheckOrRestore(Flush(target.File()));
   target.FlushName();
 }
@@ -255,8 +395,11 @@ void PosixDisk::Delete(const std::string& path) {
 }
 
 bool PosixDisk::Exists(const std::string& path) {
+  const std::string name = SystemPath(path);
   struct stat status {};
-  return stat(SystemPath(path).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+  if (stat(name.c_str(), &status) == 0) return !S_ISDIR(status.st_mode);
+  if (errno != ENOENT && errno != ENOTDIR) Fail(errno, path, name, Folder::AsFile);
+  return false;
 }
 
 std::uint64_t PosixDisk::Size(const std::string& path) {
@@ -265,6 +408,18 @@ std::uint64_t PosixDisk::Size(const std::string& path) {
   if (stat(name.c_str(), &status) < 0) Fail(errno, path, name, Folder::AsFile);
   if (S_ISDIR(status.st_mode)) throw Erreur_Execution(Erreur::Acces_Chemin, path);
   return static_cast<std::uint64_t>(status.st_size);
+}
+
+std::optional<FileStamp> PosixDisk::Stamp(const std::string& path) {
+  const std::string name = SystemPath(path);
+  struct stat status {};
+  if (stat(name.c_str(), &status) < 0) {
+    if (errno != ENOENT && errno != ENOTDIR) Fail(errno, path, name, Folder::AsFile);
+    return std::nullopt;
+  }
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  return FileStamp{status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+                   status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
 }
 
 }  // namespace vorelio

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,11 +25,14 @@ class PosixDisk : public Disk {
   /// A regular file of at most 2 GB; anything else is 75.
   std::string ReadAll(const std::string& path) override;
 
-  /// Takes the room, then overwrites in place, so that permissions, owner and links of the file stay. A new file that
-  /// fails is gone again.
+  /// Writes a new file beside the old one, under its name and ".neuf", flushes it and renames it over the old one,
+  /// whose links, mode and owner it takes over; then the folder is flushed. What a cut has left under that name goes.
+  /// In place only what can't be replaced: a device, a file of several names, one of another owner or in a folder that
+  /// can't be written.
   void WriteAll(const std::string& path, std::string_view data) override;
 
   void Append(const std::string& path, std::string_view data) override;
+  void AppendLine(const std::string& path, std::string_view line) override;
   void Copy(const std::string& from, const std::string& to) override;
 
   /// Isn't flushed by itself: a deletion that a power cut undoes has lost nothing.
@@ -37,6 +41,7 @@ class PosixDisk : public Disk {
   /// A folder is no file.
   bool Exists(const std::string& path) override;
   std::uint64_t Size(const std::string& path) override;
+  std::optional<FileStamp> Stamp(const std::string& path) override;
 
  private:
   std::string SystemPath(const std::string& path) const;

@@ -79,7 +79,7 @@ void Enregistre_Log_Texte(Programme& programme, const std::string& station) {
     // The report sent stands first here, under the title of the one received: programs that read the file count so.
     ecrit(Ligne_Large(numero, ligne, champs::RSTE_A, champs::RSTR_A, carte.De(Lit_Log(ligne, champs::Etat_QSL))));
   }
-  programme.Disque().WriteAll(programme.Chemin("Log_" + station + ".txt"), texte);
+  programme.Disque().WriteAll(programme.Chemin("Log_" + Forme_Fichier(station) + ".txt"), texte);
 }
 
 void Imprime_Activite(Programme& programme, int indice, const std::string& nom, std::string_view bande) {

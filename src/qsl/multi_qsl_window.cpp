@@ -1,9 +1,9 @@
 #include "qsl/multi_qsl_window.h"
 
+#include "core/grouped_disk.h"
 #include "core/log_line.h"
 #include "core/main_window.h"
 #include "core/text.h"
-#include "qsl/qsl_state.h"
 #include "qsl/qsl_window.h"
 
 namespace vorelio {
@@ -54,36 +54,50 @@ void Multi_QSL::Recherche_Click() {
   }
 }
 
-bool Multi_QSL::Enregistre_Coches() {
-  const auto& log = programme_.Principale().Journal();
+std::vector<std::string> Multi_QSL::Coches() const {
+  std::vector<std::string> elements;
+  for (int i = 0; i < Liste_QSO.Count(); ++i)
+    if (Liste_QSO.Checked(i)) elements.emplace_back(Liste_QSO.Item(i));
+  return elements;
+}
+
+void Multi_QSL::Enregistre_Carte(const std::string& element, Lignes_Remplacees& remplacees) {
   auto& saisie = programme_.saisie;
+  saisie.Etat_QSL_Courant = static_cast<int>(Valeur(Lit_Liste(element, champs::Etat_QSL)));
+  const int numero = static_cast<int>(Valeur(Coupe(element, 1, kColonnes_Numero - 1)));
+  saisie.Ligne_Selection = programme_.Principale().Journal().Item(numero - 1);
+  if (Option2.Set()) Maj_QSL_Recue(programme_, remplacees);
+  if (Option1.Set()) Maj_QSL_Envoyee(programme_, remplacees);
+}
+
+// A card changes up to two tallies and rewrites the log, and each change waits for the device: the files are changed in
+// memory and written once. What they hold then is what cards done one by one leave, up to the one that stops the batch.
+void Multi_QSL::Enregistre_Cartes(const std::vector<std::string>& elements) {
   Lignes_Remplacees remplacees;
-  // A card changes up to two tallies, and each change would wait for the device.
-  Disque_Tenu::Groupe pointages(programme_.Disque());
-  bool fait = false;
-  try {
-    for (int i = 0; i < Liste_QSO.Count(); ++i) {
-      if (!Liste_QSO.Checked(i)) continue;
-      const std::string_view element = Liste_QSO.Item(i);
-      saisie.Etat_QSL_Courant = static_cast<int>(Valeur(Lit_Liste(element, champs::Etat_QSL)));
-      const int numero = static_cast<int>(Valeur(Coupe(element, 1, kColonnes_Numero - 1)));
-      saisie.Ligne_Selection = log.Item(numero - 1);
-      if (Option2.Set()) Maj_QSL_Recue(programme_, remplacees);
-      if (Option1.Set()) Maj_QSL_Envoyee(programme_, remplacees);
-      fait = true;
+  std::size_t faites = 0;
+  Disque_Groupe pointages(programme_);
+  Tenue lot(programme_, [&] {
+    const std::string log = programme_.Chemin_Log(programme_.contexte.Station_Indicatif);
+    if (pointages.Ecrit(log, [&] { remplacees.Applique(programme_); })) return;
+    // The disk has refused something: card by card it is clear how far it goes.
+    for (std::size_t i = 0; i < faites; ++i) {
+      Lignes_Remplacees une;
+      Enregistre_Carte(elements[i], une);
+      une.Applique(programme_);
     }
-    pointages.Acheve();
-  } catch (...) {
-    // The cards before the failure have reached the tallies: they are to be in the log as well.
-    remplacees.Applique(programme_);
-    throw;
-  }
-  remplacees.Applique(programme_);
-  return fait;
+  });
+  lot.Pendant([&] {
+    for (; faites < elements.size(); ++faites) {
+      lot.Modifie();
+      Enregistre_Carte(elements[faites], remplacees);
+    }
+  });
 }
 
 void Multi_QSL::Enregistre_Click() {
-  if (!Enregistre_Coches()) return programme_.Message("Selectionnez un ou plusieurs QSO");
+  const auto elements = Coches();
+  if (elements.empty()) return programme_.Message("Selectionnez un ou plusieurs QSO");
+  Enregistre_Cartes(elements);
   programme_.Principale().Reprend_Apres_QSL();
   Unload();
 }

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "core/programme.h"
 #include "platform/controls.h"
+#include "qsl/qsl_state.h"
 
 namespace vorelio {
 
@@ -27,8 +31,10 @@ class Multi_QSL : public Form {
   void Option2_Click();
   void Recherche_Click();
   void Enregistre_Click();
-  /// False if no row is ticked.
-  bool Enregistre_Coches();
+  std::vector<std::string> Coches() const;
+  /// Enters the card of a row's contact: at once in the tallies, its log line with `remplacees`.
+  void Enregistre_Carte(const std::string& element, Sous_Programmes::Lignes_Remplacees& remplacees);
+  void Enregistre_Cartes(const std::vector<std::string>& elements);
 };
 
 }  // namespace vorelio

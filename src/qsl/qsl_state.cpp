@@ -2,6 +2,7 @@
 
 #include "core/bands.h"
 #include "core/clock_text.h"
+#include "core/log_guard.h"
 #include "core/log_line.h"
 #include "core/main_window.h"
 #include "core/text.h"
@@ -92,7 +93,13 @@ void Lignes_Remplacees::Applique(Programme& programme) {
     const auto place = a_faire.find(lue);
     return place == a_faire.end() ? lue : place->second;
   });
-  Prend_Temporaire(programme.Disque(), log, temporaire);
+  Prend_Log(programme, log, temporaire);
+  // A change of the list that comes before it is read anew rewrites the log from it.
+  auto& liste = programme.Principale().Journal();
+  for (int i = 0; i < liste.Count(); ++i) {
+    const auto place = a_faire.find(liste.Item(i).substr(kColonnes_Numero));
+    if (place != a_faire.end()) liste.SetItem(i, Colonne_Numero(i + 1) + place->second);
+  }
 }
 
 void Maj_QSL_Envoyee(Programme& programme, Lignes_Remplacees& remplacees) { Maj_QSL(programme, kEnvoyee, remplacees); }

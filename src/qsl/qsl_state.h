@@ -19,6 +19,7 @@ class Lignes_Remplacees {
   void Note(std::string_view ancienne, std::string_view nouvelle) { lignes_.emplace(ancienne, nouvelle); }
 
   /// Rewrites the log of the station through `Temporaire4.txt` and forgets what was noted; does nothing if nothing was.
+  /// The rows of `Liste_QSO` follow.
   /// A missing log is run-time error 53.
   void Applique(Programme& programme);
 

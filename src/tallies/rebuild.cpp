@@ -27,8 +27,7 @@ namespace {
 std::string_view Cle_Departement(std::string_view ligne) { return Rogne(Coupe(ligne, 1, 2)); }
 std::string_view Cle_Locator(std::string_view ligne) { return Rogne(Coupe(ligne, 1, 4)); }
 
-/// A tally in memory while a rebuild runs: read again when somebody else has used the disk, written when somebody is
-/// about to, and at the end.
+/// A tally in memory while a rebuild runs: written before somebody else gets a turn, read again after it.
 class Pointage_Tenu {
  public:
   Pointage_Tenu(Programme& programme, std::string_view suite, Table_Pointage::Cle_De cle_de)
@@ -37,39 +36,39 @@ class Pointage_Tenu {
         disk_(programme.Disque()),
         cle_de_(cle_de),
         table_(disk_.ReadAll(chemin_), cle_de),
-        tenue_(disk_, [this](Disk& disk) { Ecrit(disk); }) {}
+        tenue_(programme, [this] { Ecrit(); }) {}
 
   Table_Pointage& Table() { return table_; }
 
   /// A log line has been run through: the file is to be rewritten.
   void Reecrit() { tenue_.Modifie(); }
-  void Depose() { tenue_.Depose(); }
+  /// Runs `travail`; then, also if it fails, the file is written.
+  void Pendant(const std::function<void()>& travail) { tenue_.Pendant(travail); }
 
   /// After events have been served.
-  void Relit_Si_Touche() {
-    if (tenue_.Disque_Touche()) table_ = Table_Pointage(disk_.ReadAll(chemin_), cle_de_);
-    tenue_.Disque_Touche();
+  void Relit_Si_Interrompu() {
+    if (tenue_.Interrompue()) table_ = Table_Pointage(disk_.ReadAll(chemin_), cle_de_);
   }
 
   /// What a rewriting leaves that fails at the line `indice`: the tally as it was, the temporary file up to there.
   [[noreturn]] void Echoue(int indice) {
-    Depose();
+    tenue_.Depose();
     disk_.WriteAll(temporaire_, table_.Texte_Avant(indice));
     throw Erreur_Execution(Erreur::Argument_Invalide, chemin_);
   }
 
  private:
-  void Ecrit(Disk& disk) const {
-    disk.WriteAll(temporaire_, table_.Texte());
-    Prend_Temporaire(disk, chemin_, temporaire_);
+  void Ecrit() const {
+    disk_.WriteAll(temporaire_, table_.Texte());
+    Prend_Temporaire(disk_, chemin_, temporaire_);
   }
 
   std::string chemin_;
   std::string temporaire_;
-  Disque_Tenu& disk_;
+  Disk& disk_;
   Table_Pointage::Cle_De cle_de_;
   Table_Pointage table_;
-  Disque_Tenu::Tenue tenue_;
+  Tenue tenue_;
 };
 
 /// Puts the template in the tally's place: all work so far is gone from here on. Gives the log's text.
@@ -93,14 +92,15 @@ void Parcourt(Programme& programme, std::string_view log, std::string_view suite
   annonce();
 
   Pointage_Tenu pointage(programme, suite, cle_de);
-  for (Lecteur_Lignes lignes(log); !lignes.Fini();) {
-    etape(pointage, lignes.Suivante());
-    ++n;
-    annonce();
-    programme.Traite_Evenements();
-    pointage.Relit_Si_Touche();
-  }
-  pointage.Depose();
+  pointage.Pendant([&] {
+    for (Lecteur_Lignes lignes(log); !lignes.Fini();) {
+      etape(pointage, lignes.Suivante());
+      ++n;
+      annonce();
+      programme.Traite_Evenements();
+      pointage.Relit_Si_Interrompu();
+    }
+  });
 }
 
 void Annonce_La_Fin(Programme& programme) {
@@ -111,33 +111,24 @@ std::string Boite(const std::string& nom) {
   return "Le fichier " + nom + " va etre mis a jour a partir du fichier log";
 }
 
-/// The callsigns of unknown prefix; written when the rebuild ends, in whatever way.
+/// The callsigns of unknown prefix, held like the tally.
 class Liste_Absents {
  public:
-  Liste_Absents(Programme& programme, std::string chemin) : disk_(programme.Disque()), chemin_(std::move(chemin)) {
-    disk_.WriteAll(chemin_, "");
+  Liste_Absents(Programme& programme, const std::string& chemin)
+      : tenue_(programme, [this, &disk = programme.Disque(), chemin] { disk.Append(chemin, std::exchange(texte_, {})); }) {
+    programme.Disque().WriteAll(chemin, "");
   }
-  ~Liste_Absents() {
-    try {
-      Ferme();
-    } catch (const Erreur_Execution&) {
-      // The rebuild has already failed; its own error is the one to tell.
-    }
-  }
-  Liste_Absents(const Liste_Absents&) = delete;
-  Liste_Absents& operator=(const Liste_Absents&) = delete;
 
-  void Note_Absent(std::string_view indicatif) { texte_.append(indicatif).append(kFin_De_Ligne); }
-
-  void Ferme() {
-    if (texte_.empty()) return;
-    disk_.Append(chemin_, std::exchange(texte_, {}));
+  void Note_Absent(std::string_view indicatif) {
+    texte_.append(indicatif).append(kFin_De_Ligne);
+    tenue_.Modifie();
   }
+
+  void Pendant(const std::function<void()>& travail) { tenue_.Pendant(travail); }
 
  private:
-  Disk& disk_;
-  std::string chemin_;
   std::string texte_;
+  Tenue tenue_;
 };
 
 void Reconstruit_Prefixe(Pointage_Tenu& pointage, Liste_Absents& absents, std::string_view indicatif, int bande,
@@ -185,12 +176,13 @@ void Refait_Prefixes(Programme& programme) {
   // Named after the callsign typed last, not after the station: what was just emptied isn't what gets written, and
   // users have looked for the list under that name.
   const std::string log = Commence(programme, kSuite_Prefixe);
-  Liste_Absents absents(programme, programme.Chemin(programme.saisie.Indicatif_Saisi + kSuite_Absent));
-  Parcourt(programme, log, kSuite_Prefixe, Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
-    Reconstruit_Prefixe(pointage, absents, Lit_Log(ligne, champs::Indicatif_A),
-                        Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
+  Liste_Absents absents(programme, programme.Chemin_De(programme.saisie.Indicatif_Saisi, kSuite_Absent));
+  absents.Pendant([&] {
+    Parcourt(programme, log, kSuite_Prefixe, Prefixe_De, [&](Pointage_Tenu& pointage, std::string_view ligne) {
+      Reconstruit_Prefixe(pointage, absents, Lit_Log(ligne, champs::Indicatif_A),
+                          Indice_Bande_Lue(Lit_Log(ligne, champs::Bande_A)), Lit_Log(ligne, champs::Etat_QSL));
+    });
   });
-  absents.Ferme();
   Annonce_La_Fin(programme);
 }
 

@@ -2,9 +2,13 @@
 
 #include "core/calendar.h"
 #include "core/errors.h"
+#include "core/log_guard.h"
 #include "core/log_line.h"
 #include "entry/ddfm.h"
+#include "maintenance/backup.h"
+#include "qsl/qsl_state.h"
 #include "support/contact.h"
+#include "support/error_of.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -119,6 +123,72 @@ TEST_F(LogFile, DeletesAndRenumbers) {
   EXPECT_EQ(Read("F9QZX.log"), Joined({a, c}));
   Event([&] { Efface_Ligne_Log(*programme); });
   EXPECT_EQ(messages.fatal_number, 5);
+}
+
+// What another program, or an editor, has done to the log isn't lost to what this run writes over it.
+TEST_F(LogFile, ALogThatAnotherHandHasChangedIsKeptBeside) {
+  const std::string a = Ligne("01/01/04", "10:00", "A"), b = Ligne("02/01/04", "10:00", "B");
+  const std::string others = Joined({a, b, Ligne("03/01/04", "10:00", "OTHER")});
+  const std::pair<const char*, std::function<void(DDFM&)>> deeds[] = {
+      {"insertion", [&](DDFM&) { Insere_QSO_Log(*programme, Ligne("01/01/03", "10:00", "NEW")); }},
+      {"edit", [&](DDFM& ddfm) { Remplace_QSO_Log(*programme, ddfm.Liste_QSO.Item(0), ddfm.Liste_QSO.Item(1)); }},
+      {"deletion", [&](DDFM& ddfm) { ddfm.Liste_QSO.SetListIndex(0), Efface_Ligne_Log(*programme); }},
+      {"card",
+       [&](DDFM&) {
+         Lignes_Remplacees cards;
+         cards.Note(a, b);
+         cards.Applique(*programme);
+       }},
+      {"restore", [&](DDFM& ddfm) { ddfm.Mnu_Restauration.UserClick(); }},
+      {"reset", [&](DDFM& ddfm) { ddfm.Mnu_RAZ_All.UserClick(); }}};
+  for (const auto& [deed, act] : deeds) {
+    SCOPED_TRACE(deed);
+    Restart();
+    folder.Remove("F9QZX.log.garde-20030512-143456");
+    auto& ddfm = Start(Joined({a, b}));
+    Event([&] { Sauvegarde_Auto(*programme); });
+    // Its own appends are known to it.
+    Event([&] { Ajoute_Ligne_Log(*programme, b); });
+    Write("F9QZX.log", others);
+    messages.Answer(true);
+    Event([&] { act(ddfm); });
+    EXPECT_EQ(messages.fatal_number, 0);
+    EXPECT_EQ(Read("F9QZX.log.garde-20030512-143456"), others);
+    EXPECT_EQ(ddfm.Etat.Caption(),
+              "Le journal a été changé hors de Vorelio : gardé tel quel dans F9QZX.log.garde-20030512-143456"_t);
+    // What it has written itself is known again.
+    Event([&] { Insere_QSO_Log(*programme, Ligne("01/01/02", "10:00", "NEW")); });
+    EXPECT_FALSE(folder.Exists("F9QZX.log.garde-20030512-143456-2"));
+  }
+  // A line that is added to a changed log doesn't make the rest of it known.
+  Restart();
+  folder.Remove("F9QZX.log.garde-20030512-143456");
+  Start(Joined({a, b}));
+  Write("F9QZX.log", others);
+  Event([&] { Ajoute_Ligne_Log(*programme, b); });
+  EXPECT_EQ(Read("F9QZX.log"), others + Joined({b}));
+  Event([&] { Insere_QSO_Log(*programme, Ligne("01/01/02", "10:00", "NEW")); });
+  EXPECT_EQ(Read("F9QZX.log.garde-20030512-143456"), others + Joined({b}));
+}
+
+TEST_F(LogFile, AContactAfterAnOpenLineIsALineOfItsOwn) {
+  const std::string a = Ligne("01/01/04", "10:00", "A"), b = Ligne("02/01/04", "10:00", "B");
+  Start(a);
+  Event([&] { Ajoute_Ligne_Log(*programme, b); });
+  EXPECT_EQ(Read("F9QZX.log"), Joined({a, b}));
+}
+
+TEST_F(LogFile, AListThatCouldNotBeReadIsNotWrittenOverTheLog) {
+  const std::string a = Ligne("01/01/04", "10:00", "A");
+  auto& ddfm = Start(Joined({a}));
+  for (const bool readable : {false, true}) {
+    disk.FailOn("read F9QZX.log", Erreur::Disque_Non_Pret);
+    EXPECT_EQ(ErrorOf([&] { Charge_Log(*programme, "F9QZX"); }), 71);
+    EXPECT_EQ(ddfm.Liste_QSO.Count(), 0);
+    if (readable) disk.Mend();
+    EXPECT_EQ(ErrorOf([&] { Insere_QSO_Log(*programme, Ligne("01/01/03", "10:00", "NEW")); }), readable ? 0 : 71);
+    EXPECT_EQ(Read("F9QZX.log"), readable ? Joined({Ligne("01/01/03", "10:00", "NEW"), a}) : Joined({a}));
+  }
 }
 
 TEST_F(LogFile, ASaveThatCannotBeWrittenIsSeenWithTheFormStillFilled) {

@@ -124,6 +124,10 @@ TEST_F(StationFormTest, ALogThatCannotBeReadIsNotCopiedOver) {
   Pick(0);
   EXPECT_EQ(programme->Erreur_Fatale(), 0);
   EXPECT_EQ(Read("F6ABC.log"), "12/05/03  F1XYZ\r\n");
+  disk.FailOn("exists F6ABC.log", Erreur::Disque_Non_Pret);
+  Event([&] { programme->Fenetre<Station>(); });
+  Pick(0);
+  EXPECT_EQ(Read("F6ABC.log"), "12/05/03  F1XYZ\r\n");
   // The main window isn't left hidden behind the one of the load.
   EXPECT_TRUE(Main().Visible());
   EXPECT_FALSE(programme->Fenetre<Chargement>().Visible());

@@ -72,6 +72,20 @@ TEST(Text, HasCapitalsOverTheWholeSet) {
   EXPECT_EQ(Touche_Majuscule(0xE9), 0xE9);
 }
 
+TEST(Text, NamesAFileThatStaysInItsFolder) {
+  const std::pair<std::string, std::string> cases[] = {{"F6ABC", "F6ABC"},
+                                                       {"F5XYZ/P", "F5XYZ_P"},
+                                                       {"", ""},
+                                                       {"../EVIL", "_._EVIL"},
+                                                       {"..\\EVIL", "_._EVIL"},
+                                                       {".HIDDEN", "_HIDDEN"},
+                                                       {"C:F6ABC", "C_F6ABC"},
+                                                       {std::string("F6\0A", 4), "F6_A"},
+                                                       {"F6\r\nA\t", "F6__A_"},
+                                                       {"ZOÉ.1"_t, "ZOÉ.1"_t}};
+  for (const auto& [text, name] : cases) EXPECT_EQ(Forme_Fichier(text), name);
+}
+
 TEST(Text, IsReadByLinesAndByRecords) {
   const std::string lines = "one\r\ntwo\n\r\nlast\r";
   Lecteur_Lignes reader(lines);

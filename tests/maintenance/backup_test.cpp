@@ -29,7 +29,7 @@ TEST_F(BackupTest, FiveFilesInOrderOverOldCopies) {
   programme->contexte.Chemin_Sauvegarde = "elsewhere";
   Save();
   EXPECT_EQ(messages.TakeMessages(), Lines{"Sauvegarde automatique effectuée"_t});
-  EXPECT_EQ(disk.Log(),
+  EXPECT_EQ(disk.Changes(),
             (Lines{"copy F6ABC.log sauve/F6.bak", "copy F6ABC_Departement.txt sauve/F6_Departement.bak",
                    "copy F6ABC_Locator.txt sauve/F6_Locator.bak", "copy F6ABC_Prefixe.txt sauve/F6_Prefixe.bak",
                    "copy F6ABC_Activite.txt sauve/F6_Activite.bak"}));
@@ -75,9 +75,13 @@ TEST_F(BackupTest, RestoringBringsLogAndTalliesBack) {
   Event([&] { Restaure_Sauvegarde(*programme); });
   for (std::size_t i = 0; i < tallies.size(); ++i) EXPECT_EQ(Read(tallies[i]), before[i]) << tallies[i];
   EXPECT_EQ(Read("F6ABC_Activite.txt"), "stays");
-  EXPECT_EQ(disk.Log(),
-            (Lines{"copy sauve/F6.bak F6ABC.log", "copy sauve/F6_Departement.bak F6ABC_Departement.txt",
-                   "copy sauve/F6_Locator.bak F6ABC_Locator.txt", "copy sauve/F6_Prefixe.bak F6ABC_Prefixe.txt"}));
+  EXPECT_EQ(disk.Changes(),
+            (Lines{"copy F6ABC.log F6ABC.log.garde-20030512-143456", "copy sauve/F6.bak F6ABC.log",
+                   "copy sauve/F6_Departement.bak F6ABC_Departement.txt", "copy sauve/F6_Locator.bak F6ABC_Locator.txt",
+                   "copy sauve/F6_Prefixe.bak F6ABC_Prefixe.txt"}));
+
+  // What stood there hadn't come from this run.
+  EXPECT_EQ(Read("F6ABC.log.garde-20030512-143456"), "spoilt");
 
   folder.Remove("sauve/F6.bak");
   Event([&] { Restaure_Sauvegarde(*programme); });

@@ -65,6 +65,10 @@ int ftruncate(int file, off_t size) noexcept {
 int fallocate(int file, int mode, off_t from, off_t size) {
   return Pass("fallocate", file, [&] { return static_cast<int>(syscall(SYS_fallocate, file, mode, from, size)); });
 }
+int rename(const char* from, const char* to) noexcept {
+  if (calls.watched) calls.log.push_back("rename " + std::filesystem::path(to).filename().string());
+  return static_cast<int>(syscall(SYS_rename, from, to));
+}
 ssize_t pwrite(int file, const void* data, size_t size, off_t from) {
   return Pass("pwrite", file,
               [&] { return static_cast<ssize_t>(syscall(SYS_pwrite64, file, data, Share("pwrite", size), from)); });
@@ -179,13 +183,80 @@ TEST_F(Posix_Disk, GivesAndTakesContentsToTheByte) {
 
 TEST_F(Posix_Disk, ReadsFilesWhoseSizeIsntKnownBeforehand) { EXPECT_NE("", disk_.ReadAll("/proc/self/maps")); }
 
-TEST_F(Posix_Disk, OverwritesInPlace) {
+TEST_F(Posix_Disk, ReplacesAFileWhole) {
+  constexpr auto kMine = fs::perms::owner_read | fs::perms::owner_write;
+  const auto node = [&](const std::string& name) { return disk_.Stamp(Path(name)).value_or(FileStamp{}).node; };
+  fs::permissions(Path("old"), kMine);
+  const bool root = geteuid() == 0;
+  ASSERT_EQ(0, root ? chown(Path("old").c_str(), 65534, 65534) : 0);
+  fs::create_symlink("old", Path("link"));
+  // What a cut has left, be it a link to something else, is in nobody's way.
+  scratch_.Write("bystander", "stays");
+  fs::create_symlink("bystander", Path("old.neuf"));
+  const auto before = node("old");
+  disk_.WriteAll(Path("link"), "new");
+  EXPECT_NE(before, node("old"));
+  EXPECT_TRUE(fs::is_symlink(Path("link")));
+  EXPECT_EQ("new", Contents("old"));
+  EXPECT_EQ("stays", Contents("bystander"));
+  EXPECT_FALSE(fs::exists(fs::symlink_status(Path("old.neuf"))));
+  EXPECT_EQ(kMine, fs::status(Path("old")).permissions());
+  struct stat status {};
+  ASSERT_EQ(0, stat(Path("old").c_str(), &status));
+  EXPECT_EQ(root ? 65534U : geteuid(), status.st_uid);
+}
+
+TEST_F(Posix_Disk, OverwritesInPlaceWhatCantBeReplaced) {
+  const auto stays = [&](const std::string& name, const char* why) {
+    const auto before = disk_.Stamp(Path(name));
+    for (const std::string data : {"longer than it was", "short"}) {
+      EXPECT_EQ(0, WriteError(Path(name), data)) << why;
+      EXPECT_EQ(data, Contents(name)) << why;
+    }
+    EXPECT_EQ(before->node, disk_.Stamp(Path(name))->node) << why;
+  };
   fs::create_hard_link(Path("old"), Path("link"));
-  fs::permissions(Path("old"), fs::perms::owner_read | fs::perms::owner_write);
-  disk_.WriteAll(Path("old"), "new");
-  disk_.Append(Path("old"), "er");
-  EXPECT_EQ("newer", Contents("link"));
-  EXPECT_EQ(fs::perms::owner_read | fs::perms::owner_write, fs::status(Path("old")).permissions());
+  stays("old", "two names");
+  EXPECT_EQ("short", Contents("link"));
+
+  scratch_.Write("blocked", "0");
+  fs::create_directories(Path("blocked.neuf/full"));
+  stays("blocked", "the place beside is taken");
+
+  const std::string longest(253, 'x');
+  scratch_.Write(longest, "0");
+  stays(longest, "no name beside is short enough");
+
+  scratch_.Write("folder/file", "0");
+  fs::permissions(Path("folder/file"), fs::perms::all);
+  fs::permissions(Path("folder"), fs::perms(0755));
+  const Commoner nobody;
+  stays("folder/file", "a folder that can't be written");
+}
+
+// A line that is added stands alone, whatever a cut or an editor has left at the end.
+TEST_F(Posix_Disk, AppendsALineOfItsOwn) {
+  const struct {
+    std::string before, after;
+  } table[] = {{"", "new\r\n"},
+               {"one\r\n", "one\r\nnew\r\n"},
+               {"one\n", "one\nnew\r\n"},
+               {"one", "one\r\nnew\r\n"},
+               {"one\r", "one\r\nnew\r\n"},
+               {"one\r\ntw" + std::string(10000, '\0'), "one\r\ntw\r\nnew\r\n"},
+               {"one\r\n" + std::string(4096, '\0'), "one\r\nnew\r\n"},
+               {std::string(8192, '\0'), "new\r\n"}};
+  for (const auto& c : table) {
+    scratch_.Write("log", c.before);
+    disk_.AppendLine(Path("log"), "new");
+    EXPECT_EQ(c.after, Contents("log")) << c.before.substr(0, 10);
+  }
+  disk_.AppendLine(Path("fresh"), "new");
+  EXPECT_EQ("new\r\n", Contents("fresh"));
+  scratch_.Write("log", "one");
+  Watch("fsync", EIO);
+  EXPECT_EQ(71, Error(Path("log"), [&] { disk_.AppendLine(Path("log"), "new"); }));
+  EXPECT_EQ("one", Contents("log"));
 }
 
 TEST_F(Posix_Disk, TellsWhatIsMissing) {
@@ -235,6 +306,9 @@ TEST_F(Posix_Disk, TellsWhatIsntPermitted) {
     EXPECT_EQ(70, AppendError(Path("old")));
     EXPECT_EQ(70, WriteError(Path("folder/new")));
     EXPECT_EQ(70, DeleteError(Path("folder/new")));
+    // Not to be told from here: a "no" would let a template take its place.
+    EXPECT_EQ(70, Error(Path("folder/new"), [&] { disk_.Exists(Path("folder/new")); }));
+    EXPECT_EQ(70, Error(Path("folder/new"), [&] { disk_.Stamp(Path("folder/new")); }));
   }
   EXPECT_EQ("0123456789", (fs::permissions(Path("old"), fs::perms::owner_read), Contents("old")));
 
@@ -261,6 +335,9 @@ TEST_F(Posix_Disk, LeavesTheOldContentsWhenTheDiskIsFull) {
   EXPECT_EQ("0123456789", Contents("old"));
   EXPECT_FALSE(scratch_.Exists("new"));
 
+  EXPECT_FALSE(scratch_.Exists("old.neuf"));
+
+  fs::create_hard_link(Path("old"), Path("link"));
   Watch("fallocate", ENOSPC);
   EXPECT_EQ(61, WriteError(Path("old"), std::string(20, 'x')));
   EXPECT_EQ("0123456789", Contents("old"));
@@ -285,11 +362,14 @@ TEST_F(Posix_Disk, GoesOnWhereTheSystemAsksForIt) {
   const std::vector<std::pair<std::string, int>> table = {
       {"fallocate", EOPNOTSUPP}, {"fallocate", ENOSYS}, {"fallocate", EINTR}, {"fsync", EINTR},     {"fsync", EINVAL},
       {"ftruncate", EINTR},      {"pwrite", EINTR},     {"pwrite", -1},       {"fsync", EOPNOTSUPP}};
-  for (const auto& [call, error] : table) {
-    scratch_.Write("old", "0123456789");
-    Watch(call, error);
-    EXPECT_EQ(0, WriteError(Path("old"), "0123456789abcdef")) << call << error;
-    EXPECT_EQ("0123456789abcdef", Contents("old")) << call << error;
+  for (const bool in_place : {false, true}) {
+    if (in_place) fs::create_hard_link(Path("old"), Path("link"));
+    for (const auto& [call, error] : table) {
+      scratch_.Write("old", "0123456789abcdef");
+      Watch(call, error);
+      EXPECT_EQ(0, WriteError(Path("old"), "01234567")) << call << error;
+      EXPECT_EQ("01234567", Contents("old")) << call << error;
+    }
   }
 }
 
@@ -301,16 +381,19 @@ TEST_F(Posix_Disk, FlushesInTheOrderThatAPowerCutAsksFor) {
     return calls.log;
   };
   using Log = std::vector<std::string>;
-  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("old"), "0123456789abcdef"); }),
-            (Log{"fallocate old", "pwrite old", "pwrite old", "ftruncate old", "fsync old"}));
-  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("old"), "short"); }),
-            (Log{"fallocate old", "pwrite old", "ftruncate old", "fsync old"}));
-  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("new"), "short"); }),
-            (Log{"fallocate new", "pwrite new", "ftruncate new", "fsync new", "fsync " + here}));
-  EXPECT_EQ(calls_of([&] { disk_.Append(Path("new"), "line"); }), Log{"fsync new"});
-  EXPECT_EQ(calls_of([&] { disk_.Append(Path("newer"), "line"); }), (Log{"fsync newer", "fsync " + here}));
+  const Log replaced = {"pwrite old.neuf", "fsync old.neuf", "rename old", "fsync " + here};
+  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("old"), "0123456789abcdef"); }), replaced);
   EXPECT_EQ(calls_of([&] { disk_.Copy(Path("old"), Path("copy")); }),
-            (Log{"fallocate copy", "pwrite copy", "ftruncate copy", "fsync copy", "fsync " + here}));
+            (Log{"pwrite copy.neuf", "fsync copy.neuf", "rename copy", "fsync " + here}));
+  EXPECT_EQ(calls_of([&] { disk_.Append(Path("copy"), "line"); }), Log{"fsync copy"});
+  EXPECT_EQ(calls_of([&] { disk_.AppendLine(Path("copy"), "line"); }), Log{"fsync copy"});
+  EXPECT_EQ(calls_of([&] { disk_.Append(Path("newer"), "line"); }), (Log{"fsync newer", "fsync " + here}));
+  // In place a length that got to the device before its contents would leave zeros.
+  fs::create_hard_link(Path("old"), Path("link"));
+  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("old"), "0123456789abcdefgh"); }),
+            (Log{"fallocate old", "pwrite old", "pwrite old", "fsync old"}));
+  EXPECT_EQ(calls_of([&] { disk_.WriteAll(Path("old"), "short"); }),
+            (Log{"fallocate old", "pwrite old", "fsync old", "ftruncate old", "fsync old"}));
 }
 
 TEST_F(Posix_Disk, FindsFilesByTheirAccentsAndInFoldersOutsideTheCharacterSet) {

@@ -3,6 +3,7 @@
 #include "core/errors.h"
 #include "core/log_line.h"
 #include "entry/ddfm.h"
+#include "qsl/qsl_state.h"
 #include "qsl/qsl_window.h"
 #include "support/contact.h"
 #include "support/random_log.h"
@@ -87,6 +88,66 @@ TEST_F(MultiQsl, AFailureHalfWayLeavesTheCardsBeforeItInTheLog) {
   EXPECT_EQ(Line("F9QZX.log", 2).substr(134, 2), "1 ");
   EXPECT_EQ(Line("F9QZX_Departement.txt", 6).substr(0, 8), "06 00002");
   EXPECT_FALSE(folder.Exists("Temporaire2.txt"));
+}
+
+// Whatever the disk refuses, and however far the cards come with it.
+TEST_F(MultiQsl, ABatchThatTheDiskStopsLeavesWhatTheCardsOneByOneWould) {
+  std::string log;
+  for (const auto& [band, department] : {std::pair("144 Mhz", "06"), std::pair("144 Mhz", "07"), {"14 Mhz", "08"}})
+    log += Construit_Ligne(Contact({"12/05/03", "F6ABC", "", "", department, "JN33BB", band})) + "\r\n";
+  const char* const faults[] = {"read F9QZX.log", "write Temporaire4.txt", "copy Temporaire4.txt F9QZX.log",
+                                "delete Temporaire4.txt", "read F9QZX_Departement.txt"};
+  for (const char* fault : faults) {
+    std::string outcomes[2];
+    for (const bool batch : {false, true}) {
+      Restart();
+      ReadyStation("F9QZX");
+      for (const char* name : {"Temporaire2.txt", "Temporaire3.txt", "Temporaire4.txt"}) folder.Remove(name);
+      auto& ddfm = Start(log);
+      messages.fatal_number = 0;
+      if (batch) {
+        auto& window = Open(false);
+        for (int row = 0; row < 3; ++row) window.Liste_QSO.UserTick(row);
+        disk.FailOn(fault, Erreur::Disque_Plein);
+        Event([&] { window.Enregistre.UserClick(); });
+      } else {
+        // The fault comes with the card, not with the loading of the log behind it.
+        for (int row = 0; row < 3 && !programme->Termine_Deja(); ++row) {
+          Event([&] { ddfm.Liste_QSO.UserSelect(row); });
+          Event([&] { ddfm.Gestion_QSL.UserClick(); });
+          disk.FailOn(fault, Erreur::Disque_Plein);
+          Event([&] {
+            Lignes_Remplacees card;
+            Maj_QSL_Recue(*programme, card);
+            card.Applique(*programme);
+          });
+          disk.Mend();
+        }
+      }
+      disk.Mend();
+      outcomes[batch] = AllFiles() + Read("Temporaire4.txt") + std::to_string(messages.fatal_number);
+    }
+    EXPECT_EQ(outcomes[1], outcomes[0]) << fault;
+  }
+}
+
+// A batch doesn't rewrite the tallies card by card; where it can't write one, the cards themselves try.
+TEST_F(MultiQsl, ATallyThatCantBeWrittenAtOnceIsWrittenCardByCard) {
+  const std::string line = Construit_Ligne(Contact({"12/05/03", "F6ABC", "", "", "06", "JN33BB", "144 Mhz"})) + "\r\n";
+  for (const char* fault : {"write F9QZX_Departement.txt", "write F9QZX_Locator.txt"}) {
+    Restart();
+    ReadyStation("F9QZX");
+    Start(line + line);
+    auto& window = Open(false);
+    window.Liste_QSO.UserTick(0);
+    disk.FailOn(fault, Erreur::Disque_Plein);
+    Event([&] { window.Enregistre.UserClick(); });
+    disk.Mend();
+    EXPECT_EQ(messages.fatal_number, 0) << fault;
+    EXPECT_EQ(Line("F9QZX.log", 1)[134], '3');
+    EXPECT_EQ(Line("F9QZX_Departement.txt", 6).substr(0, 14), "06 00000000003");
+    EXPECT_EQ(Read("F9QZX_Locator.txt").substr(Read("F9QZX_Locator.txt").find("JN33"), 7), "JN33 03");
+  }
 }
 
 }  // namespace

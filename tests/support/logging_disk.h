@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -23,12 +24,17 @@ class LoggingDisk : public Disk {
   std::string ReadAll(const std::string& path) override { return Noted("read", path).ReadAll(path); }
   void WriteAll(const std::string& path, std::string_view data) override { Noted("write", path).WriteAll(path, data); }
   void Append(const std::string& path, std::string_view data) override { Noted("append", path).Append(path, data); }
+  void AppendLine(const std::string& path, std::string_view line) override {
+    Noted("append", path).AppendLine(path, line);
+  }
   void Copy(const std::string& from, const std::string& to) override {
     Noted("copy", from, " " + Short(to)).Copy(from, to);
   }
   void Delete(const std::string& path) override { Noted("delete", path).Delete(path); }
   bool Exists(const std::string& path) override { return Noted("exists", path).Exists(path); }
   std::uint64_t Size(const std::string& path) override { return Noted("size", path).Size(path); }
+  /// Isn't logged: it neither reads nor changes.
+  std::optional<FileStamp> Stamp(const std::string& path) override { return inner_.Stamp(path); }
 
   /// "read X", "write X", "append X", "copy X Y", "delete X", "exists X", "size X", in order; a failing one too.
   const Lines& Log() const { return log_; }
