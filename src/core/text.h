@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 /// Text as the station's files hold it: one byte a character, Windows-1252.
 /// Every width and column of the program counts characters, so a text must never be anything else inside.
@@ -164,6 +166,18 @@ std::string Deux_Chiffres(int nombre);
 /// The text of a Boolean in the settings, "True" or "False"; an unknown text is not true.
 std::string Texte_Booleen(bool valeur);
 bool Booleen(std::string_view texte);
+
+// --- Tables ---------------------------------------------------------------------------------------------------------
+
+/// Lets a table of texts be asked with a part of a text.
+struct Hachage_Texte {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view texte) const { return std::hash<std::string_view>{}(texte); }
+};
+
+/// A table by texts.
+template <typename Valeur>
+using Table_Textes = std::unordered_map<std::string, Valeur, Hachage_Texte, std::equal_to<>>;
 
 // --- Lines ----------------------------------------------------------------------------------------------------------
 

@@ -181,7 +181,7 @@ void ListControl::EraseAt(int index) {
 }
 
 void ListControl::ReplaceAt(int index, std::string_view text) {
-  items_[static_cast<std::size_t>(index)] = text;
+  items_.Replace(static_cast<std::size_t>(index), text);
   Notify(Property::Items);
 }
 

@@ -30,10 +30,13 @@ class Rows {
   void Append(std::string_view text);
   void Insert(std::size_t row, std::string_view text);
   void Erase(std::size_t row);
+  void Replace(std::size_t row, std::string_view text);
   /// Puts `head` in the place of as many characters at the beginning of a row that is at least as long.
   void WriteOver(std::size_t row, std::string_view head);
 
  private:
+  /// The rows from `row` on have moved by so many characters.
+  void Shift(std::size_t row, std::size_t by);
   std::size_t Begin(std::size_t row) const { return row == 0 ? 0 : ends_[row - 1]; }
 
   std::string texts_;

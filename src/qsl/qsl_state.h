@@ -2,9 +2,9 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 #include "core/programme.h"
+#include "core/text.h"
 
 /// The QSL state of a contact and what it does to the tallies. Both procedures act on `Ligne_Selection` and
 /// `Etat_QSL_Courant`: they change the log line, raise the department's code and set the square's. There is no way
@@ -24,7 +24,7 @@ class Lignes_Remplacees {
   void Applique(Programme& programme);
 
  private:
-  std::unordered_map<std::string, std::string> lignes_;
+  Table_Textes<std::string> lignes_;
 };
 
 /// A card was sent: state 1 becomes 2, 3 becomes 4, with today's date; 2 and 4 stay.

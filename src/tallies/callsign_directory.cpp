@@ -45,7 +45,7 @@ void Maj_Nomenclature(Programme& programme, std::string_view indicatif, std::str
   const std::string fichier = programme.Chemin(kFichier);
   const std::string temporaire = programme.Chemin("Temporaire5.txt");
   Ecrit_Temporaire(disque, fichier, temporaire, [&](std::string_view ligne) {
-    return Lit_Nomenclature(ligne).indicatif == indicatif ? cumul += fiche : std::string(ligne);
+    return Lit_Nomenclature(ligne).indicatif == indicatif ? std::optional(cumul += fiche) : std::nullopt;
   });
 
   // The way back is a reading and a writing, and a new entry rides on it.

@@ -45,9 +45,11 @@ class Pointage_Tenu {
   /// Runs `travail`; then, also if it fails, the file is written.
   void Pendant(const std::function<void()>& travail) { tenue_.Pendant(travail); }
 
-  /// After events have been served.
-  void Relit_Si_Interrompu() {
-    if (tenue_.Interrompue()) table_ = Table_Pointage(disk_.ReadAll(chemin_), cle_de_);
+  /// After events have been served. Whether somebody else has had a turn.
+  bool Relit_Si_Interrompu() {
+    const bool interrompu = tenue_.Interrompue();
+    if (interrompu) table_ = Table_Pointage(disk_.ReadAll(chemin_), cle_de_);
+    return interrompu;
   }
 
   /// What a rewriting leaves that fails at the line `indice`: the tally as it was, the temporary file up to there.
@@ -80,15 +82,16 @@ std::string Commence(Programme& programme, std::string_view suite) {
 /// Runs the log through the tally, line by line, telling how far it has come.
 void Parcourt(Programme& programme, std::string_view log, std::string_view suite, Table_Pointage::Cle_De cle_de,
               const std::function<void(Pointage_Tenu&, std::string_view ligne)>& etape) {
-  const std::string lecture = "Lecture du log ligne n° "_t;
+  const std::string lecture = "Lecture du log ligne n°  "_t;
   const int total = static_cast<int>(std::count(log.begin(), log.end(), '\n'));
   int n = 1;
+  std::string texte;
+  auto* progression = &programme.Fenetre<Progression>();
   const auto annonce = [&] {
-    auto& progression = programme.Fenetre<Progression>();
-    progression.Label3.SetCaption(lecture + Texte_Nombre_Blanc(n));
-    progression.Avance.SetProgress(n - 1, total);
+    progression->Label3.SetCaption(texte.assign(lecture).append(std::to_string(n)));
+    progression->Avance.SetProgress(n - 1, total);
   };
-  programme.Fenetre<Progression>().Show();
+  progression->Show();
   annonce();
 
   Pointage_Tenu pointage(programme, suite, cle_de);
@@ -98,7 +101,8 @@ void Parcourt(Programme& programme, std::string_view log, std::string_view suite
       ++n;
       annonce();
       programme.Traite_Evenements();
-      pointage.Relit_Si_Interrompu();
+      // The window may have been closed: another one then tells the rest.
+      if (pointage.Relit_Si_Interrompu()) progression = &programme.Fenetre<Progression>();
     }
   });
 }
@@ -115,7 +119,8 @@ std::string Boite(const std::string& nom) {
 class Liste_Absents {
  public:
   Liste_Absents(Programme& programme, const std::string& chemin)
-      : tenue_(programme, [this, &disk = programme.Disque(), chemin] { disk.Append(chemin, std::exchange(texte_, {})); }) {
+      : tenue_(programme,
+               [this, &disk = programme.Disque(), chemin] { disk.Append(chemin, std::exchange(texte_, {})); }) {
     programme.Disque().WriteAll(chemin, "");
   }
 
