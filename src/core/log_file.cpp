@@ -22,9 +22,9 @@ void Reecrit_Log(Programme& programme, const ListBox& liste) {
   Remplace_Log(programme, programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
 }
 
-/// The list has room for a log of the file's size at once: it doesn't grow line by line.
+/// The list has room for the whole log at once: it doesn't grow line by line.
 void Reserve_Liste(ListBox& liste, std::string_view texte) {
-  const auto lignes = static_cast<std::size_t>(std::count(texte.begin(), texte.end(), '\n')) + 1;
+  const std::size_t lignes = texte.size() / (kLargeur_Ligne + kFin_De_Ligne.size()) + 1;
   liste.Reserve(lignes, texte.size() + lignes * kColonnes_Numero);
 }
 
@@ -105,8 +105,10 @@ void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::stri
   ListBox& liste = programme.Principale().Journal();
   const auto place = std::find(liste.Items().begin(), liste.Items().end(), ancienne);
   if (place != liste.Items().end()) {
+    // It may look into the list.
+    const std::string element(nouvelle);
     liste.RemoveItem(static_cast<int>(place - liste.Items().begin()));
-    liste.AddItem(nouvelle);
+    liste.AddItem(element);
   }
   Reecrit_Log(programme, liste);
 }

@@ -195,6 +195,12 @@ std::string_view Lecteur_Lignes::Suivante() {
   return ligne;
 }
 
+int Compte_Lignes(std::string_view texte) {
+  int nombre = 0;
+  for (auto fin = texte.find('\n'); fin != std::string_view::npos; fin = texte.find('\n', fin + 1)) ++nombre;
+  return nombre;
+}
+
 std::string_view Lecteur_Champs::Suivant() {
   if (reste_.empty()) throw Erreur_Execution(Erreur::Fin_De_Fichier);
   const auto fin = std::min(reste_.find_first_of(",\r\n"), reste_.size());

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 /// Text as the station's files hold it: one byte a character, Windows-1252.
 /// Every width and column of the program counts characters, so a text must never be anything else inside.
@@ -167,18 +165,6 @@ std::string Deux_Chiffres(int nombre);
 std::string Texte_Booleen(bool valeur);
 bool Booleen(std::string_view texte);
 
-// --- Tables ---------------------------------------------------------------------------------------------------------
-
-/// Lets a table of texts be asked with a part of a text.
-struct Hachage_Texte {
-  using is_transparent = void;
-  std::size_t operator()(std::string_view texte) const { return std::hash<std::string_view>{}(texte); }
-};
-
-/// A table by texts.
-template <typename Valeur>
-using Table_Textes = std::unordered_map<std::string, Valeur, Hachage_Texte, std::equal_to<>>;
-
 // --- Lines ----------------------------------------------------------------------------------------------------------
 
 /// What ends every line that is written.
@@ -200,6 +186,9 @@ class Lecteur_Lignes {
  private:
   std::string_view reste_;
 };
+
+/// How many lines end in the text.
+int Compte_Lignes(std::string_view texte);
 
 /// The records of a file whose lines may hold several fields: a comma ends a record as a line end does.
 class Lecteur_Champs {

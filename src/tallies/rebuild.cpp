@@ -1,6 +1,5 @@
 #include "tallies/rebuild.h"
 
-#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -83,7 +82,7 @@ std::string Commence(Programme& programme, std::string_view suite) {
 void Parcourt(Programme& programme, std::string_view log, std::string_view suite, Table_Pointage::Cle_De cle_de,
               const std::function<void(Pointage_Tenu&, std::string_view ligne)>& etape) {
   const std::string lecture = "Lecture du log ligne n°  "_t;
-  const int total = static_cast<int>(std::count(log.begin(), log.end(), '\n'));
+  const int total = Compte_Lignes(log);
   int n = 1;
   std::string texte;
   auto* progression = &programme.Fenetre<Progression>();

@@ -1,5 +1,7 @@
 #include "platform/controls.h"
 
+#include <random>
+
 #include "core/programme.h"
 #include "core/text.h"
 #include "support/error_of.h"
@@ -165,6 +167,33 @@ TEST_F(Controls, ManyRowsAtOnceAreAsOneByOne) {
     EXPECT_EQ(Texts(page.sorted.Items()), rows);
     EXPECT_EQ(page.sorted.ListIndex(), index);
   }
+}
+
+TEST_F(Controls, RowsAreAsAVectorOfTexts) {
+  Rows rows;
+  Lines lines;
+  std::mt19937 dice(1);
+  for (int i = 0; i < 2000; ++i) {
+    const std::size_t place = dice() % (lines.size() + 1);
+    const std::string text(dice() % 40, static_cast<char>('a' + i % 26));
+    const auto at = lines.begin() + static_cast<std::ptrdiff_t>(place);
+    if (dice() % 3 == 0 || place == lines.size()) {
+      rows.Insert(place, text);
+      lines.insert(at, text);
+    } else if (dice() % 3 == 0) {
+      rows.Erase(place);
+      lines.erase(at);
+    } else if (dice() % 2 == 0) {
+      rows.Replace(place, text);
+      *at = text;
+    } else {
+      const std::string head = text.substr(0, at->size());
+      rows.WriteOver(place, head);
+      at->replace(0, head.size(), head);
+    }
+    ASSERT_EQ(Texts(rows), lines) << i;
+  }
+  EXPECT_GT(lines.size(), 100U);
 }
 
 TEST_F(Controls, SortedListGoesByBytesEqualOnesByArrival) {
