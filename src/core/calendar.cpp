@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <optional>
 #include <string>
 
 #include "core/errors.h"
@@ -30,9 +31,34 @@ std::array<int, N> Nombres(std::string_view texte, char separateur) {
   return nombres;
 }
 
+/// The number of two digits at `place`, nothing if other characters stand there.
+std::optional<int> Paire(std::string_view texte, std::size_t place) {
+  const int dizaines = texte[place] - '0', unites = texte[place + 1] - '0';
+  if (dizaines < 0 || dizaines > 9 || unites < 0 || unites > 9) return std::nullopt;
+  return 10 * dizaines + unites;
+}
+
+bool Jour_Reel(int annee, int mois, int jour) {
+  return std::chrono::year_month_day(std::chrono::year(annee), std::chrono::month(static_cast<unsigned>(mois)),
+                                     std::chrono::day(static_cast<unsigned>(jour)))
+      .ok();
+}
+
+/// The moment of "jj/mm/aa" and "hh:mm" to the letter, the form of nearly every line; nothing for any other text.
+std::optional<Moment> Moment_Ordinaire(std::string_view date, std::string_view heure) {
+  if (date.size() != 8 || date[2] != '/' || date[5] != '/' || heure.size() != 5 || heure[2] != ':') return std::nullopt;
+  const auto jour = Paire(date, 0), mois = Paire(date, 3), annee = Paire(date, 6);
+  const auto heures = Paire(heure, 0), minutes = Paire(heure, 3);
+  if (!jour || !mois || !annee || !heures || !minutes || *heures > 23 || *minutes > 59) return std::nullopt;
+  const int complete = *annee + (*annee >= 50 ? 1900 : 2000);
+  if (!Jour_Reel(complete, *mois, *jour)) return std::nullopt;
+  return Moment{complete, *mois, *jour, *heures, *minutes};
+}
+
 }  // namespace
 
 Moment Moment_QSO(std::string_view date, std::string_view heure) {
+  if (const auto moment = Moment_Ordinaire(date, heure)) return *moment;
   const std::string_view jour_mois = Coupe(date, 1, 6);
   const std::string_view deux_chiffres = Fin(date, 2);
   const double annee_courte = Valeur(deux_chiffres);
@@ -44,9 +70,7 @@ Moment Moment_QSO(std::string_view date, std::string_view heure) {
 
 Moment Moment_Complet(std::string_view date, std::string_view heure) {
   const auto [jour, mois, annee] = Nombres<3>(date, '/');
-  const std::chrono::year_month_day jour_reel(std::chrono::year(annee), std::chrono::month(static_cast<unsigned>(mois)),
-                                              std::chrono::day(static_cast<unsigned>(jour)));
-  if (!jour_reel.ok()) Refuse(date);
+  if (!Jour_Reel(annee, mois, jour)) Refuse(date);
 
   // A line without a time stands at the beginning of its day.
   if (Rogne(heure).empty()) return {annee, mois, jour, 0, 0};

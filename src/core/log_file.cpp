@@ -1,5 +1,7 @@
 #include "core/log_file.h"
 
+#include <algorithm>
+
 #include "core/calendar.h"
 #include "core/loading_window.h"
 #include "core/log_guard.h"
@@ -16,19 +18,36 @@ namespace {
 void Reecrit_Log(Programme& programme, const ListBox& liste) {
   std::string texte;
   texte.reserve(static_cast<std::size_t>(liste.Count()) * (kLargeur_Ligne + kFin_De_Ligne.size()));
-  for (const std::string& element : liste.Items()) texte.append(Partie_Log(element)).append(kFin_De_Ligne);
+  for (const std::string_view element : liste.Items()) texte.append(Partie_Log(element)).append(kFin_De_Ligne);
   Remplace_Log(programme, programme.Chemin_Log(programme.contexte.Station_Indicatif), texte);
 }
 
-/// Moves the rows of the working copy into the list.
-void Reprend_Copie(Fenetre_Principale& principale) {
-  principale.Journal().ClearItems();
-  for (const std::string& element : principale.Copie_Journal().Items()) principale.Journal().AddItem(element);
-  principale.Copie_Journal().ClearItems();
+/// The list has room for the whole log at once: it doesn't grow line by line.
+void Reserve_Liste(ListBox& liste, std::string_view texte) {
+  const std::size_t lignes = texte.size() / (kLargeur_Ligne + kFin_De_Ligne.size()) + 1;
+  liste.Reserve(lignes, texte.size() + lignes * kColonnes_Numero);
 }
 
-void Ajoute_Numerotee(ListBox& liste, int numero, std::string_view ligne) {
-  liste.AddItem(Colonne_Numero(numero).append(ligne));
+/// Numbers the rows by their place; those from `place` on leave one number free. From the end, where a number that the
+/// column can't hold is met before anything has changed.
+void Renumerote(ListBox& liste, int place) {
+  for (int i = liste.Count() - 1; i >= 0; --i) {
+    const std::string colonne = Colonne_Numero(i < place ? i + 1 : i + 2);
+    if (!liste.Item(i).starts_with(colonne)) liste.WriteOver(i, colonne);
+  }
+}
+
+/// The first row at or after the moment of `ligne`, the count if there is none. Older lines are no longer asked for
+/// their date once the place is found.
+int Place_Par_Date(const ListBox& liste, std::string_view ligne) {
+  const auto moment_de = [](std::string_view qso) {
+    return Moment_QSO(Champ_Log(qso, champs::Date_A), Champ_Log(qso, champs::Debut_A));
+  };
+  if (liste.Count() == 0) return 0;
+  const Moment moment = moment_de(ligne);
+  const auto place = std::find_if(liste.Items().begin(), liste.Items().end(),
+                                  [&](std::string_view element) { return moment_de(Partie_Log(element)) >= moment; });
+  return static_cast<int>(place - liste.Items().begin());
 }
 
 /// The log into the main window's list, which from then on stands for the file.
@@ -52,9 +71,12 @@ std::string Texte_Log(Programme& programme) {
 void Liste_Log(Programme& programme, std::string_view station, ListBox& liste) {
   liste.ClearItems();
   const std::string texte = programme.Disque().ReadAll(programme.Chemin_Log(station));
+  Reserve_Liste(liste, texte);
+  std::string element;
   int numero = 1;
   for (Lecteur_Lignes lignes(texte); !lignes.Fini(); ++numero) {
-    Ajoute_Numerotee(liste, numero, lignes.Suivante());
+    element.assign(Colonne_Numero(numero)).append(lignes.Suivante());
+    liste.AddItem(element);
     programme.Traite_Evenements();
   }
 }
@@ -80,49 +102,35 @@ void Ajoute_Ligne_Log(Programme& programme, std::string_view ligne) {
 }
 
 void Remplace_QSO_Log(Programme& programme, std::string_view ancienne, std::string_view nouvelle) {
-  auto& principale = programme.Principale();
-  principale.Copie_Journal().ClearItems();
-  for (const std::string& element : principale.Journal().Items())
-    principale.Copie_Journal().AddItem(element == ancienne ? nouvelle : element);
-  Reprend_Copie(principale);
-  Reecrit_Log(programme, principale.Journal());
+  ListBox& liste = programme.Principale().Journal();
+  const auto place = std::find(liste.Items().begin(), liste.Items().end(), ancienne);
+  if (place != liste.Items().end()) {
+    // It may look into the list.
+    const std::string element(nouvelle);
+    liste.RemoveItem(static_cast<int>(place - liste.Items().begin()));
+    liste.AddItem(element);
+  }
+  Reecrit_Log(programme, liste);
 }
 
 void Insere_QSO_Log(Programme& programme, std::string_view ligne) {
-  auto& principale = programme.Principale();
   // The list of a log that couldn't be read is empty: the contact must not be all that is left of it.
   const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
   if (programme.contexte.Log_Non_Lu == log) Lit_Liste_QSO(programme, log, programme.contexte.Station_Indicatif);
-  const auto moment = [](std::string_view qso) {
-    return Moment_QSO(Champ_Log(qso, champs::Date_A), Champ_Log(qso, champs::Debut_A));
-  };
-
-  principale.Copie_Journal().ClearItems();
-  bool insere = false;
-  int numero = 1;
-  for (const std::string& element : principale.Journal().Items()) {
-    const std::string_view ancienne = Partie_Log(element);
-    // A tie goes to the new contact. Once it has its place, older lines are no longer asked for their date.
-    if (!insere && moment(ancienne) >= moment(ligne)) {
-      Ajoute_Numerotee(principale.Copie_Journal(), numero++, ligne);
-      insere = true;
-    }
-    Ajoute_Numerotee(principale.Copie_Journal(), numero++, ancienne);
-  }
-  if (!insere) Ajoute_Numerotee(principale.Copie_Journal(), numero, ligne);
-  Reprend_Copie(principale);
-  Reecrit_Log(programme, principale.Journal());
+  ListBox& liste = programme.Principale().Journal();
+  // A tie goes to the new contact.
+  const int place = Place_Par_Date(liste, ligne);
+  const std::string element = Colonne_Numero(place + 1).append(ligne);
+  Renumerote(liste, place);
+  liste.AddItem(element);
+  Reecrit_Log(programme, liste);
 }
 
 void Efface_Ligne_Log(Programme& programme) {
-  auto& principale = programme.Principale();
-  principale.Journal().RemoveItem(principale.Journal().ListIndex());
-  principale.Copie_Journal().ClearItems();
-  int numero = 1;
-  for (const std::string& element : principale.Journal().Items())
-    Ajoute_Numerotee(principale.Copie_Journal(), numero++, Partie_Log(element));
-  Reprend_Copie(principale);
-  Reecrit_Log(programme, principale.Journal());
+  ListBox& liste = programme.Principale().Journal();
+  liste.RemoveItem(liste.ListIndex());
+  Renumerote(liste, liste.Count());
+  Reecrit_Log(programme, liste);
 }
 
 }  // namespace vorelio::Sous_Programmes

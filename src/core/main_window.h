@@ -21,8 +21,6 @@ class Fenetre_Principale : public Form {
   // --- Log ---
   /// `Liste_QSO`: a `Ligne_Liste` per contact, in the order of the file.
   virtual ListBox& Journal() = 0;
-  /// Its hidden working copy.
-  virtual ListBox& Copie_Journal() = 0;
   /// "QSO numéro " and the number in the frame of the entry form.
   virtual void Annonce_Numero(int numero) = 0;
   /// After cards have been entered: the grid in department mode, the log read anew, its last line selected.

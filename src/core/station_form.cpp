@@ -106,7 +106,7 @@ void Station::Liste_Indicatifs_KeyPress(int& touche) {
   } else {
     Validation.SetEnabled(true);
     Validation.SetFocus();
-    const std::string& choisie = Liste_Indicatifs.Text();
+    const std::string choisie(Liste_Indicatifs.Text());
     New_Indicatif.SetText(Rogne(Coupe(choisie, 1, kLargeur_Indicatif)));
     New_Locator.SetText(Fin(choisie, static_cast<int>(kLongueur_Locator)));
   }

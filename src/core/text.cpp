@@ -84,7 +84,15 @@ std::string Blancs(int nombre) {
 }
 
 std::string Complete(std::string_view texte, int largeur, int ecart) {
-  return std::string(texte) + Blancs(largeur + ecart - static_cast<int>(texte.size()));
+  std::string ligne;
+  Ajoute_Complete(ligne, texte, largeur, ecart);
+  return ligne;
+}
+
+void Ajoute_Complete(std::string& ligne, std::string_view texte, int largeur, int ecart) {
+  const auto total = static_cast<std::size_t>(largeur + ecart);
+  if (texte.size() > total) throw Erreur_Execution(Erreur::Argument_Invalide);
+  ligne.append(texte).append(total - texte.size(), ' ');
 }
 
 std::string Complete_Gauche(std::string_view texte, int largeur) {
@@ -189,6 +197,12 @@ std::string_view Lecteur_Lignes::Suivante() {
   reste_.remove_prefix(fin == std::string_view::npos ? reste_.size() : fin + 1);
   if (fin != std::string_view::npos && ligne.ends_with('\r')) ligne.remove_suffix(1);
   return ligne;
+}
+
+int Compte_Lignes(std::string_view texte) {
+  int nombre = 0;
+  for (auto fin = texte.find('\n'); fin != std::string_view::npos; fin = texte.find('\n', fin + 1)) ++nombre;
+  return nombre;
 }
 
 std::string_view Lecteur_Champs::Suivant() {

@@ -123,6 +123,8 @@ std::string Blancs(int nombre);
 /// The text, filled with blanks to `largeur` plus `ecart`. A text that is longer than the width uses the gap;
 /// beyond it the count of blanks turns negative: run-time error 5.
 std::string Complete(std::string_view texte, int largeur, int ecart = 0);
+/// Appends the same to `ligne`.
+void Ajoute_Complete(std::string& ligne, std::string_view texte, int largeur, int ecart = 0);
 
 /// The text with blanks in front to `largeur`; longer is run-time error 5.
 std::string Complete_Gauche(std::string_view texte, int largeur);
@@ -187,6 +189,9 @@ class Lecteur_Lignes {
  private:
   std::string_view reste_;
 };
+
+/// How many lines end in the text.
+int Compte_Lignes(std::string_view texte);
 
 /// The records of a file whose lines may hold several fields: a comma ends a record as a line end does.
 class Lecteur_Champs {

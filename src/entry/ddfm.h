@@ -75,7 +75,7 @@ class DDFM : public Fenetre_Principale {
 
   // --- Log ---
   ListBox Liste_QSO{*this, "Liste_QSO", ListBox::Kind::Sorted};
-  ListBox Liste_QSO_Bis{*this, "Liste_QSO_Bis", ListBox::Kind::Sorted};  ///< Working copy, hidden.
+  ListBox Liste_QSO_Bis{*this, "Liste_QSO_Bis", ListBox::Kind::Sorted};  ///< Its hidden twin.
 
   // --- Menus ---
   MenuItem Mnu_Indicatif, Mnu_Val_Sauve, Mnu_Restauration, Mnu_Restau_Activite, Mnu_RAZ_All, Mnu_Quitter;
@@ -101,7 +101,6 @@ class DDFM : public Fenetre_Principale {
 
   // --- What the rest of the program uses ---
   ListBox& Journal() override { return Liste_QSO; }
-  ListBox& Copie_Journal() override { return Liste_QSO_Bis; }
   void Annonce_Numero(int numero) override;
   void Reprend_Apres_QSL() override;
   void Dit(std::string_view texte) override { Etat.SetCaption(texte); }

@@ -80,7 +80,7 @@ void DDFM::Indicatif_A_KeyPress(int& touche) {
 }
 
 void DDFM::Cherche_Indicatif() {
-  for (const std::string& ligne : Liste_QSO.Items()) {
+  for (const std::string_view ligne : Liste_QSO.Items()) {
     if (Lit_Liste(ligne, champs::Indicatif_A) != Indicatif_A.Text()) continue;
     Prenom_A.SetText(Lit_Liste(ligne, champs::Prenom_A));
     constexpr int kDate_Et_Ecart = champs::Date_A.largeur + champs::Date_A.ecart;

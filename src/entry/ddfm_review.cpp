@@ -146,7 +146,7 @@ void DDFM::Annuler_Click() {
 
 void DDFM::Gestion_QSL_Click() {
   if (Rien_De_Choisi()) return;
-  const std::string& ligne = Liste_QSO.Text();
+  const std::string ligne(Liste_QSO.Text());
   programme_.saisie.Etat_QSL_Courant = static_cast<int>(Valeur(Lit_Liste(ligne, champs::Etat_QSL)));
   auto& qsl = programme_.Fenetre<QSL>();
   qsl.Montre_QSO(ligne);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/log_line.h"
 #include "core/text.h"
@@ -15,11 +16,8 @@ namespace {
 
 bool Fin_D_Entete(std::string_view ligne) { return Majuscules(Coupe(ligne, 1, 5)) == "<EOH>"; }
 
-/// The value of the first tag that begins with `balise`, nothing without such a tag. The last `de_moins` characters
-/// before the "<" don't count.
-std::optional<std::string_view> Champ_ADIF(std::string_view ligne, std::string_view balise, std::size_t de_moins = 0) {
-  const auto place = ligne.find(balise);
-  if (place == std::string_view::npos) return std::nullopt;
+/// The value of the tag that stands at `place`. The last `de_moins` characters before the "<" don't count.
+std::string_view Valeur_A(std::string_view ligne, std::size_t place, std::string_view balise, std::size_t de_moins) {
   const auto ouverture = ligne.find('>', place);
   const auto fin = ouverture == std::string_view::npos ? ouverture : ligne.find('<', ouverture);
   if (fin == std::string_view::npos) Refuse(balise);
@@ -28,9 +26,33 @@ std::optional<std::string_view> Champ_ADIF(std::string_view ligne, std::string_v
   return Rogne(valeur);
 }
 
+/// A record in capitals, with the places where a tag can begin: it is asked for some twenty of them.
+class Enregistrement {
+ public:
+  explicit Enregistrement(std::string_view ligne) : texte_(Majuscules(ligne)) {
+    constexpr std::size_t kBalises_Usuelles = 24;
+    places_.reserve(kBalises_Usuelles);
+    for (auto place = texte_.find('<'); place != std::string::npos; place = texte_.find('<', place + 1))
+      places_.push_back(place);
+  }
+
+  /// The value of the first tag that begins with `balise`, nothing without such a tag.
+  std::optional<std::string_view> Champ(std::string_view balise, std::size_t de_moins = 0) const {
+    for (const std::size_t place : places_)
+      // The letter after the "<" tells most tags apart.
+      if (texte_[place + 1] == balise[1] && texte_.compare(place, balise.size(), balise) == 0)
+        return Valeur_A(texte_, place, balise, de_moins);
+    return std::nullopt;
+  }
+
+ private:
+  std::string texte_;
+  std::vector<std::size_t> places_;
+};
+
 /// The same, with a value for a tag that is missing or empty.
-std::string Champ_Ou(std::string_view ligne, std::string_view balise, std::string_view defaut) {
-  const auto valeur = Champ_ADIF(ligne, balise);
+std::string Champ_Ou(const Enregistrement& ligne, std::string_view balise, std::string_view defaut) {
+  const auto valeur = ligne.Champ(balise);
   return std::string(valeur && !valeur->empty() ? *valeur : defaut);
 }
 
@@ -47,34 +69,34 @@ std::string Morceaux(std::string_view valeur, std::initializer_list<std::pair<in
 std::string Heure(std::string_view valeur) { return Morceaux(valeur, {{1, 2}, {3, 2}}, ':'); }
 
 /// A report, and the number of the exchange after it.
-std::string Rapport(std::string_view ligne, std::string_view balise, std::string_view balise_numero) {
+std::string Rapport(const Enregistrement& ligne, std::string_view balise, std::string_view balise_numero) {
   std::string rapport = Champ_Ou(ligne, balise, "XX");
-  if (const auto numero = Champ_ADIF(ligne, balise_numero)) rapport.append(numero->empty() ? "XX" : *numero);
+  if (const auto numero = ligne.Champ(balise_numero)) rapport.append(numero->empty() ? "XX" : *numero);
   return rapport;
 }
 
 /// The band, empty if the record gives none that the log knows. A frequency counts more than a band, and loses its last
 /// character first, so that "144" is read as 14 MHz: logs of earlier imports were made so.
-std::string_view Bande(std::string_view ligne) {
-  auto valeur = Champ_ADIF(ligne, "<FREQ", 1);
+std::string_view Bande(const Enregistrement& ligne) {
+  auto valeur = ligne.Champ("<FREQ", 1);
   if (valeur) {
     valeur = Coupe(*valeur, 1, 5);
     valeur = valeur->substr(0, valeur->find('.'));
   } else {
-    valeur = Champ_ADIF(ligne, "<BAND");
+    valeur = ligne.Champ("<BAND");
   }
   return valeur ? Bande_Importee(*valeur) : std::string_view{};
 }
 
 /// Department of France; the states and provinces of other countries begin with a letter.
-std::string Departement(std::string_view ligne) {
-  const auto valeur = Champ_ADIF(ligne, "<STATE");
+std::string Departement(const Enregistrement& ligne) {
+  const auto valeur = ligne.Champ("<STATE");
   if (valeur && valeur->empty()) Refuse("<STATE");
   const bool numero = valeur && valeur->front() >= '0' && valeur->front() <= '9';
   return numero ? std::string(*valeur) : Blancs(2);
 }
 
-void Avance_Etat_QSL(std::string_view ligne, char& etat) {
+void Avance_Etat_QSL(const Enregistrement& ligne, char& etat) {
   const std::string envoyee = Champ_Ou(ligne, "<QSL_SENT", "N");
   const std::string recue = Champ_Ou(ligne, "<QSL_RCVD", "N");
   if (envoyee == "N" && recue == "N") etat = '1';
@@ -85,7 +107,7 @@ void Avance_Etat_QSL(std::string_view ligne, char& etat) {
 }
 
 /// All of a log line from the record. The messages come out also when a field stops the reading.
-std::string Convertit(std::string_view ligne, char& etat_QSL, std::vector<std::string>& messages) {
+std::string Convertit(const Enregistrement& ligne, char& etat_QSL, std::vector<std::string>& messages) {
   Champs_QSO qso;
 
   const std::string date = Champ_Ou(ligne, "<QSO_DATE", "");
@@ -102,7 +124,7 @@ std::string Convertit(std::string_view ligne, char& etat_QSL, std::vector<std::s
     qso.Debut_A = "00:00";
     messages.push_back("Heure absente, remplacée par 00:00"_t);
   }
-  const auto fin = Champ_ADIF(ligne, "<TIME_OFF");
+  const auto fin = ligne.Champ("<TIME_OFF");
   qso.Fin_A = !fin ? qso.Debut_A : fin->empty() ? "00:00" : Heure(*fin);
 
   qso.Indicatif_A = Champ_Ou(ligne, "<CALL", "").substr(0, 12);
@@ -141,9 +163,9 @@ Premier_Moment Premier_ADIF(std::string_view texte) {
     std::string ligne;
     while (ligne.empty()) ligne = Majuscules(lignes.Suivante());
     const auto champ = [&](std::string_view nom) {
-      const auto valeur = Champ_ADIF(ligne, nom);
-      if (!valeur) Refuse(nom);
-      return *valeur;
+      const auto place = ligne.find(nom);
+      if (place == std::string::npos) Refuse(nom);
+      return Valeur_A(ligne, place, nom, 0);
     };
     const std::string_view date = champ("QSO_DATE");
     return {Morceaux(date, {{7, 2}, {5, 2}, {1, 4}}, '/'), Heure(champ("TIME_ON"))};
@@ -168,7 +190,7 @@ std::vector<std::string_view> Enregistrements_ADIF(std::string_view texte) {
 Ligne_Importee Ligne_ADIF(std::string_view enregistrement, char& etat_QSL) {
   Ligne_Importee lue;
   try {
-    lue.ligne = Convertit(Majuscules(enregistrement), etat_QSL, lue.messages);
+    lue.ligne = Convertit(Enregistrement(enregistrement), etat_QSL, lue.messages);
   } catch (const Erreur_Execution& erreur) {
     lue.erreur = erreur.Genre();
   }

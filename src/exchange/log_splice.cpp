@@ -110,42 +110,44 @@ void Import_Log::Insere(const Premier_Moment& premier, const std::vector<std::st
   Disk& disque = programme_.Disque();
   const std::string travail = programme_.Chemin(genre_.temporaire);
   std::string log = disque.ReadAll(log_);
-  std::string debut, bloc;
-  Tenue tenue(programme_, [&] { disque.WriteAll(travail, debut + bloc); });
+  std::string lignes;
+  lignes.reserve(log.size() + enregistrements.size() * (kLargeur_Ligne + kFin_De_Ligne.size()));
+  Tenue tenue(programme_, [&] { disque.WriteAll(travail, lignes); });
   tenue.Modifie();
   tenue.Pendant([&] {
     const Moment moment = Moment_Complet(premier.date, premier.heure);
     std::optional<Copie_Log> copie(std::in_place, log, genre_);
-    if (!copie->Copie_Avant(moment, debut)) return;
+    if (!copie->Copie_Avant(moment, lignes)) return;
+    const std::size_t place = lignes.size();
     for (const std::string_view enregistrement : enregistrements) {
-      Prend(convertit(enregistrement), bloc);
+      Prend(convertit(enregistrement), lignes);
       tenue.Modifie();
       programme_.Traite_Evenements();
     }
     if (tenue.Interrompue()) {
       // A contact may have come into the log meanwhile. The marker too may be gone: then the end is the place.
+      const std::string bloc = lignes.substr(place);
       log = disque.ReadAll(log_);
-      debut.clear();
+      lignes.clear();
       copie.emplace(log, genre_);
-      copie->Copie_Avant(moment, debut);
+      copie->Copie_Avant(moment, lignes);
+      lignes += bloc;
     }
-    debut += bloc;
-    bloc.clear();
     tenue.Modifie();
-    copie->Copie_Reste(debut);
+    copie->Copie_Reste(lignes);
   });
   lues_ = enregistrements.size();
 
-  garde_ = Remplace_Log(programme_, log_, Sans_Reperes(debut));
+  garde_ = Remplace_Log(programme_, log_, Sans_Reperes(lignes));
   disque.Delete(travail);
 }
 
 /// One more line of the block, once its messages have been read.
-void Import_Log::Prend(const Ligne_Importee& lue, std::string& bloc) {
+void Import_Log::Prend(const Ligne_Importee& lue, std::string& lignes) {
   ++lues_;
   for (const std::string& message : lue.messages) programme_.Message(message);
   if (lue.erreur) throw Erreur_Execution(*lue.erreur, fichier_ + "\r\nEnregistrement n° "_t + std::to_string(lues_));
-  Ajoute_Ligne(bloc, lue.ligne);
+  Ajoute_Ligne(lignes, lue.ligne);
   if (!Est_Repere(lue.ligne)) ++ajoutees_;
   if (lues_ % kPas_Annonce == 0) Annonce_Avance();
 }

@@ -55,7 +55,7 @@ class Import_Log {
   void Recharge();
 
  private:
-  void Prend(const Ligne_Importee& lue, std::string& bloc);
+  void Prend(const Ligne_Importee& lue, std::string& lignes);
   void Annonce_Avance();
   void Active_Menus(bool actif);
 

@@ -1,5 +1,6 @@
 #include "exchange/text_import.h"
 
+#include <numeric>
 #include <string_view>
 
 #include "core/text.h"
@@ -35,7 +36,12 @@ void Ote_Fin_De_Texte(std::string& octets) {
 
 std::string Texte_Recu(std::string octets) {
   Ote_Fin_De_Texte(octets);
-  if (!En_Utf8(octets)) return octets;
+  // Most files are mere ASCII, where both character sets agree.
+  const unsigned char ensemble =
+      std::accumulate(octets.begin(), octets.end(), static_cast<unsigned char>(0), [](unsigned char vus, char octet) {
+        return static_cast<unsigned char>(vus | static_cast<unsigned char>(octet));
+      });
+  if (ensemble < 0x80 || !En_Utf8(octets)) return octets;
   std::string_view utf8 = octets;
   if (utf8.starts_with(kMarque_Utf8)) utf8.remove_prefix(kMarque_Utf8.size());
   return De_Utf8(utf8);

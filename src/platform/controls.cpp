@@ -1,7 +1,7 @@
 #include "platform/controls.h"
 
 #include <algorithm>
-#include <iterator>
+#include <utility>
 
 #include "core/errors.h"
 #include "core/programme.h"
@@ -43,11 +43,6 @@ bool Control::Reachable() const {
   const Form* modal = form_.programme().Fenetre_Modale();
   const bool locked = modal && modal != &form_ && !form_.AboveModal();
   return enabled_ && visible_ && form_.Visible() && !form_.Unloaded() && !locked;
-}
-
-const std::string& Control::Words() const {
-  static const std::string none;
-  return none;
 }
 
 void Control::Raise(const std::function<void()>& event) const {
@@ -122,9 +117,8 @@ void TextField::UserDblClick() {
 
 // --- Lists ----------------------------------------------------------------------------------------------------------
 
-const std::string& ListControl::Item(int index) const {
-  static const std::string none;
-  return index >= 0 && index < Count() ? items_[static_cast<std::size_t>(index)] : none;
+std::string_view ListControl::Item(int index) const {
+  return index >= 0 && index < Count() ? items_[static_cast<std::size_t>(index)] : std::string_view{};
 }
 
 void ListControl::SetListIndex(int index) {
@@ -139,7 +133,7 @@ void ListControl::TakeIndex(int index) {
 }
 
 void ListControl::ClearItems() {
-  items_.clear();
+  items_.Clear();
   index_ = -1;
   Notify(Property::Items);
 }
@@ -151,19 +145,32 @@ void ListControl::UserSelect(int index) {
 }
 
 void ListControl::InsertAt(int index, std::string_view text) {
-  items_.emplace(items_.begin() + index, text);
+  if (index == Count())
+    items_.Append(text);
+  else
+    items_.Insert(static_cast<std::size_t>(index), text);
   if (index <= index_) ++index_;
   Notify(Property::Items);
 }
 
-void ListControl::Merge(std::vector<std::string> texts) {
+void ListControl::WriteOver(int index, std::string_view head) {
+  items_.WriteOver(static_cast<std::size_t>(index), head);
+  Notify(Property::Items);
+}
+
+void ListControl::Merge(const std::vector<std::string>& texts) {
   if (texts.empty()) return;
-  const auto old = static_cast<std::ptrdiff_t>(items_.size());
   // The selected row moves after the new ones that come before it.
   if (index_ >= 0)
     index_ += static_cast<int>(std::lower_bound(texts.begin(), texts.end(), Item(index_)) - texts.begin());
-  items_.insert(items_.end(), std::make_move_iterator(texts.begin()), std::make_move_iterator(texts.end()));
-  std::inplace_merge(items_.begin(), items_.begin() + old, items_.end());
+  Rows merged;
+  auto old = items_.begin();
+  for (const std::string& text : texts) {
+    for (; old != items_.end() && *old <= text; ++old) merged.Append(*old);
+    merged.Append(text);
+  }
+  for (; old != items_.end(); ++old) merged.Append(*old);
+  items_ = std::move(merged);
   Notify(Property::Items);
 }
 
@@ -177,14 +184,14 @@ void ListControl::Append(std::vector<std::string> texts) {
 }
 
 void ListControl::EraseAt(int index) {
-  items_.erase(items_.begin() + index);
+  items_.Erase(static_cast<std::size_t>(index));
   if (index == index_) index_ = -1;
   if (index < index_) --index_;
   Notify(Property::Items);
 }
 
 void ListControl::ReplaceAt(int index, std::string_view text) {
-  items_[static_cast<std::size_t>(index)] = text;
+  items_.Replace(static_cast<std::size_t>(index), text);
   Notify(Property::Items);
 }
 
@@ -192,7 +199,7 @@ ListBox::ListBox(Form& form, std::string_view name, Kind kind) : ListControl(for
 
 void ListBox::AddItem(std::string_view text) {
   int place = Count();
-  if (kind_ == Kind::Sorted && place > 0 && Items().back() > text)
+  if (kind_ == Kind::Sorted && place > 0 && Item(place - 1) > text)
     place = static_cast<int>(std::upper_bound(Items().begin(), Items().end(), text) - Items().begin());
   if (kind_ == Kind::Checked) checked_.insert(checked_.begin() + place, false);
   InsertAt(place, text);
@@ -202,7 +209,7 @@ void ListBox::AddItems(std::vector<std::string> texts) {
   if (kind_ == Kind::Checked) checked_.resize(checked_.size() + texts.size());
   if (kind_ != Kind::Sorted) return Append(std::move(texts));
   std::stable_sort(texts.begin(), texts.end());
-  Merge(std::move(texts));
+  Merge(texts);
 }
 
 void ListBox::RemoveItem(int index) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/colours.h"
+#include "platform/rows.h"
 
 /// The windows as the logic sees them: plain objects with a name, the properties that the logic uses and the events
 /// that it needs. They draw nothing; a view may watch each of them and show it on a screen.
@@ -81,7 +82,7 @@ class Control {
   bool Reachable() const;
 
   /// Text or caption, whichever the control has, for those who know it by name alone.
-  virtual const std::string& Words() const;
+  virtual std::string_view Words() const { return {}; }
 
   void SetView(ControlView* view) { view_ = view; }
 
@@ -134,7 +135,7 @@ class TextField : public Control {
   bool ReadOnly() const { return read_only_; }
   void SetReadOnly(bool read_only) { read_only_ = read_only; }
 
-  const std::string& Words() const override { return text_; }
+  std::string_view Words() const override { return text_; }
 
   KeyHandler KeyPress;
   std::function<void()> Click;
@@ -162,10 +163,10 @@ class ListControl : public Control {
  public:
   using Control::Control;
 
-  int Count() const { return static_cast<int>(items_.size()); }
-  const std::vector<std::string>& Items() const { return items_; }
-  /// Row `index` from 0; an index outside the list gives the empty text.
-  const std::string& Item(int index) const;
+  int Count() const { return static_cast<int>(items_.Size()); }
+  const Rows& Items() const { return items_; }
+  /// Row `index` from 0; an index outside the list gives the empty text. Looks into the list, until its next change.
+  std::string_view Item(int index) const;
 
   int ListIndex() const { return index_; }
   /// Selects a row (-1: none). It is a click, each time, also on the row that was selected. An index outside the list
@@ -173,6 +174,10 @@ class ListControl : public Control {
   void SetListIndex(int index);
 
   virtual void ClearItems();
+  /// Takes the room for so many rows of so many characters in all, where that is known beforehand.
+  void Reserve(std::size_t rows, std::size_t characters) { items_.Reserve(rows, characters); }
+  /// Puts `head` in the place of the first characters of a row, which stays where it is.
+  void WriteOver(int index, std::string_view head);
 
   std::function<void()> Click;
 
@@ -184,12 +189,12 @@ class ListControl : public Control {
   void InsertAt(int index, std::string_view text);
   void Append(std::vector<std::string> texts);
   /// Puts sorted rows among the sorted ones that are there, after equal ones.
-  void Merge(std::vector<std::string> texts);
+  void Merge(const std::vector<std::string>& texts);
   void EraseAt(int index);
   void ReplaceAt(int index, std::string_view text);
 
  private:
-  std::vector<std::string> items_;
+  Rows items_;
   int index_ = -1;
 };
 
@@ -213,8 +218,8 @@ class ListBox : public ListControl {
   void ClearItems() override;
 
   /// Text of the selected row, empty if none is.
-  const std::string& Text() const { return Item(ListIndex()); }
-  const std::string& Words() const override { return Text(); }
+  std::string_view Text() const { return Item(ListIndex()); }
+  std::string_view Words() const override { return Text(); }
 
   /// Shows the last row, selecting none; no click.
   void ShowEnd();
@@ -251,7 +256,7 @@ class ComboBox : public ListControl {
   bool ReplacedByKey() const { return replace_; }
   /// Fires nothing. The row of that text, letter for letter, is then the selected one; else none is.
   void SetText(std::string_view text);
-  const std::string& Words() const override { return text_; }
+  std::string_view Words() const override { return text_; }
 
   KeyHandler KeyPress;
 
@@ -282,7 +287,7 @@ class Captioned : public Control {
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption);
-  const std::string& Words() const override { return caption_; }
+  std::string_view Words() const override { return caption_; }
 
  private:
   std::string caption_;

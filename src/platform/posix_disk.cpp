@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <limits>
@@ -302,18 +303,14 @@ std::string PosixDisk::ReadAll(const std::string& path) {
   if (!S_ISREG(status.st_mode) || static_cast<std::uint64_t>(status.st_size) > kLargest)
     throw Erreur_Execution(Erreur::Acces_Chemin, path);
 
-  // One byte more than it should hold, to see its end without a further turn.
-  std::string data(static_cast<std::size_t>(status.st_size) + 1, '\0');
-  std::size_t filled = 0;
-  for (;;) {
-    const auto count = Retry([&] { return read(file.Number(), data.data() + filled, data.size() - filled); });
+  std::string data;
+  data.reserve(static_cast<std::size_t>(status.st_size));
+  std::array<char, 65536> piece;
+  while (const auto count = Retry([&] { return read(file.Number(), piece.data(), piece.size()); })) {
     if (count < 0) Fail(errno, path, name, Folder::AsFile);
-    if (count == 0) break;
-    filled += static_cast<std::size_t>(count);
-    if (filled > kLargest) throw Erreur_Execution(Erreur::Acces_Chemin, path);
-    if (filled == data.size()) data.resize(std::max<std::size_t>(2 * data.size(), 4096));
+    data.append(piece.data(), static_cast<std::size_t>(count));
+    if (data.size() > kLargest) throw Erreur_Execution(Erreur::Acces_Chemin, path);
   }
-  data.resize(filled);
   return data;
 }
 

@@ -47,7 +47,7 @@ void Multi_QSL::Recherche_Click() {
   const std::string motif = Majuscules(Indicatif.Text());
   // The state of a contact that has the other card alone lacks this one.
   const std::string_view autre = Option1.Set() ? "3" : "2";
-  for (const std::string& ligne : programme_.Principale().Journal().Items()) {
+  for (const std::string_view ligne : programme_.Principale().Journal().Items()) {
     const std::string_view etat = Lit_Liste(ligne, champs::Etat_QSL);
     if (Lit_Liste(ligne, champs::Indicatif_A).find(motif) == std::string_view::npos) continue;
     if (etat == "1" || etat == autre) Liste_QSO.AddItem(ligne);
@@ -57,7 +57,7 @@ void Multi_QSL::Recherche_Click() {
 std::vector<std::string> Multi_QSL::Coches() const {
   std::vector<std::string> elements;
   for (int i = 0; i < Liste_QSO.Count(); ++i)
-    if (Liste_QSO.Checked(i)) elements.push_back(Liste_QSO.Item(i));
+    if (Liste_QSO.Checked(i)) elements.emplace_back(Liste_QSO.Item(i));
   return elements;
 }
 

@@ -1,5 +1,7 @@
 #include "qsl/qsl_state.h"
 
+#include <optional>
+
 #include "core/bands.h"
 #include "core/clock_text.h"
 #include "core/log_guard.h"
@@ -89,9 +91,8 @@ void Lignes_Remplacees::Applique(Programme& programme) {
   const std::string log = programme.Chemin_Log(programme.contexte.Station_Indicatif);
   const std::string temporaire = programme.Chemin("Temporaire4.txt");
   Ecrit_Temporaire(programme.Disque(), log, temporaire, [&](std::string_view ligne) {
-    std::string lue(ligne);
-    const auto place = a_faire.find(lue);
-    return place == a_faire.end() ? lue : place->second;
+    const auto place = a_faire.find(ligne);
+    return place == a_faire.end() ? std::nullopt : std::optional(place->second);
   });
   Prend_Log(programme, log, temporaire);
   // A change of the list that comes before it is read anew rewrites the log from it.

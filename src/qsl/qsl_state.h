@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
+#include "core/log_line.h"
 #include "core/programme.h"
 
 /// The QSL state of a contact and what it does to the tallies. Both procedures act on `Ligne_Selection` and
@@ -24,7 +26,15 @@ class Lignes_Remplacees {
   void Applique(Programme& programme);
 
  private:
-  std::unordered_map<std::string, std::string> lignes_;
+  /// A contact's date, callsign and time tell it from nearly all others.
+  struct Hachage {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view ligne) const {
+      return std::hash<std::string_view>{}(Coupe(ligne, 1, champs::Debut_A.colonne + champs::Debut_A.largeur));
+    }
+  };
+
+  std::unordered_map<std::string, std::string, Hachage, std::equal_to<>> lignes_;
 };
 
 /// A card was sent: state 1 becomes 2, 3 becomes 4, with today's date; 2 and 4 stay.

@@ -45,7 +45,7 @@ void Maj_Nomenclature(Programme& programme, std::string_view indicatif, std::str
   const std::string fichier = programme.Chemin(kFichier);
   const std::string temporaire = programme.Chemin("Temporaire5.txt");
   Ecrit_Temporaire(disque, fichier, temporaire, [&](std::string_view ligne) {
-    return Lit_Nomenclature(ligne).indicatif == indicatif ? cumul += fiche : std::string(ligne);
+    return Lit_Nomenclature(ligne).indicatif == indicatif ? std::optional(cumul += fiche) : std::nullopt;
   });
 
   // The way back is a reading and a writing, and a new entry rides on it.
@@ -64,9 +64,9 @@ void Charge_Nomenclature(Programme& programme) {
   for (Lecteur_Champs fiches(texte); !fiches.Fini();) liste.AddItem(fiches.Suivant());
 }
 
-void Ecrit_Nomenclature(Programme& programme, const std::vector<std::string>& lignes) {
+void Ecrit_Nomenclature(Programme& programme, const Rows& lignes) {
   std::string texte;
-  for (const std::string& ligne : lignes) texte.append(ligne).append(kFin_De_Ligne);
+  for (const std::string_view ligne : lignes) texte.append(ligne).append(kFin_De_Ligne);
   programme.Disque().WriteAll(programme.Chemin(kFichier), texte);
 }
 

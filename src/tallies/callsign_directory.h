@@ -2,9 +2,9 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/programme.h"
+#include "platform/rows.h"
 
 /// The callsign directory `Nomenclature.txt`, common to all stations: by 1-based column 1-10 callsign, 12-13 department
 /// in tally form, 15-20 locator.
@@ -31,7 +31,7 @@ void Maj_Nomenclature(Programme& programme, std::string_view indicatif, std::str
 void Charge_Nomenclature(Programme& programme);
 
 /// Writes the whole directory.
-void Ecrit_Nomenclature(Programme& programme, const std::vector<std::string>& lignes);
+void Ecrit_Nomenclature(Programme& programme, const Rows& lignes);
 
 /// The line of a directory entry up to the locator: callsign in eleven columns, department in three.
 std::string Debut_Nomenclature(std::string_view indicatif, std::string_view departement);

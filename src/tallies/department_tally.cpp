@@ -51,7 +51,7 @@ void Maj_Departement(Programme& programme, std::string_view departement, std::st
   const int colonne = Colonne_Departement(bande);
   Ecrit_Temporaire(programme.Disque(), fichier, temporaire, [&](std::string_view ligne) {
     const bool touchee = colonne > 0 && Cle(ligne) == departement;
-    return touchee ? Avec_Code(ligne, colonne, code, kPremiere_Bande) : std::string(ligne);
+    return touchee ? std::optional(Avec_Code(ligne, colonne, code, kPremiere_Bande)) : std::nullopt;
   });
   Prend_Temporaire(programme.Disque(), fichier, temporaire);
 }

@@ -56,7 +56,7 @@ void Fichier_Nomenclature::Ajouter_Click() {
     return programme_.Message("Attention pas d'indicatif ou indicatif superieur a 10 caracteres");
   if (Loc_Edit.Text().empty() || Loc_Edit.Text().size() > kLocator_Au_Plus)
     return programme_.Message("Attention pas de locator ou locator superieur a 6 caracteres");
-  for (const std::string& ligne : Liste_Nomenclature.Items())
+  for (const std::string_view ligne : Liste_Nomenclature.Items())
     if (Lit_Nomenclature(ligne).indicatif == indicatif)
       return programme_.Message("Attention l'indicatif " + indicatif + " est deja present dans le fichier");
   Liste_Nomenclature.AddItem(Ligne_Saisie());

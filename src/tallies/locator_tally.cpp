@@ -42,7 +42,7 @@ void Maj_Locator(Programme& programme, std::string_view carre, std::string_view 
   const int colonne = Colonne_Locator(bande);
   Ecrit_Temporaire(programme.Disque(), fichier, temporaire, [&](std::string_view ligne) {
     const bool touchee = colonne > 0 && Cle(ligne) == carre;
-    return touchee ? Avec_Code(ligne, colonne, code, kPremiere_Bande) : std::string(ligne);
+    return touchee ? std::optional(Avec_Code(ligne, colonne, code, kPremiere_Bande)) : std::nullopt;
   });
   Prend_Temporaire(programme.Disque(), fichier, temporaire);
 }

@@ -71,13 +71,14 @@ void Maj_Prefixe(Programme& programme, std::string_view indicatif, std::string_v
     const std::string temporaire = programme.Chemin("Temporaire1.txt");
     const int colonne = Colonne_Prefixe(bande);
     bool trouve = false;
-    Ecrit_Temporaire(programme.Disque(), fichier, temporaire, [&](std::string_view ligne) {
-      if (trouve || !Correspond(ligne, indicatif)) return std::string(ligne);
-      trouve = true;
-      Prend_Ligne(ligne, colonne, {code, pays, prefixe});
-      const bool nouveau = colonne > 0 && Valeur(code) == 0;
-      return nouveau ? Avec_Code(ligne, colonne, "1", kPremiere_Bande) : std::string(ligne);
-    });
+    Ecrit_Temporaire(programme.Disque(), fichier, temporaire,
+                     [&](std::string_view ligne) -> std::optional<std::string> {
+                       if (trouve || !Correspond(ligne, indicatif)) return std::nullopt;
+                       trouve = true;
+                       Prend_Ligne(ligne, colonne, {code, pays, prefixe});
+                       const bool nouveau = colonne > 0 && Valeur(code) == 0;
+                       return nouveau ? std::optional(Avec_Code(ligne, colonne, "1", kPremiere_Bande)) : std::nullopt;
+                     });
     if (!trouve)
       programme.Message(
           "Prefixe Inconnu, annulez la saisie du QSO\r\n"

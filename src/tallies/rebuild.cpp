@@ -1,6 +1,5 @@
 #include "tallies/rebuild.h"
 
-#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -45,9 +44,11 @@ class Pointage_Tenu {
   /// Runs `travail`; then, also if it fails, the file is written.
   void Pendant(const std::function<void()>& travail) { tenue_.Pendant(travail); }
 
-  /// After events have been served.
-  void Relit_Si_Interrompu() {
-    if (tenue_.Interrompue()) table_ = Table_Pointage(disk_.ReadAll(chemin_), cle_de_);
+  /// After events have been served. Whether somebody else has had a turn.
+  bool Relit_Si_Interrompu() {
+    const bool interrompu = tenue_.Interrompue();
+    if (interrompu) table_ = Table_Pointage(disk_.ReadAll(chemin_), cle_de_);
+    return interrompu;
   }
 
   /// What a rewriting leaves that fails at the line `indice`: the tally as it was, the temporary file up to there.
@@ -89,15 +90,16 @@ void Parcourt(Programme& programme, Facon facon, std::string_view log, std::stri
       for (Lecteur_Lignes lignes(log); !lignes.Fini();) etape(pointage, lignes.Suivante());
     });
   }
-  const std::string lecture = "Lecture du log ligne n° "_t;
-  const int total = static_cast<int>(std::count(log.begin(), log.end(), '\n'));
+  const std::string lecture = "Lecture du log ligne n°  "_t;
+  const int total = Compte_Lignes(log);
   int n = 1;
+  std::string texte;
+  auto* progression = &programme.Fenetre<Progression>();
   const auto annonce = [&] {
-    auto& progression = programme.Fenetre<Progression>();
-    progression.Label3.SetCaption(lecture + Texte_Nombre_Blanc(n));
-    progression.Avance.SetProgress(n - 1, total);
+    progression->Label3.SetCaption(texte.assign(lecture).append(std::to_string(n)));
+    progression->Avance.SetProgress(n - 1, total);
   };
-  programme.Fenetre<Progression>().Show();
+  progression->Show();
   annonce();
 
   Pointage_Tenu pointage(programme, suite, cle_de);
@@ -107,7 +109,8 @@ void Parcourt(Programme& programme, Facon facon, std::string_view log, std::stri
       ++n;
       annonce();
       programme.Traite_Evenements();
-      pointage.Relit_Si_Interrompu();
+      // The window may have been closed: another one then tells the rest.
+      if (pointage.Relit_Si_Interrompu()) progression = &programme.Fenetre<Progression>();
     }
   });
 }

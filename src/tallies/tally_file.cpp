@@ -24,7 +24,11 @@ void Ecrit_Temporaire(Disk& disque, const std::string& chemin, const std::string
   std::string neuf;
   // A little more than it was, for lines that had LF alone.
   neuf.reserve(texte.size() + texte.size() / 16);
-  for (Lecteur_Lignes lignes(texte); !lignes.Fini();) neuf.append(change(lignes.Suivante())).append(kFin_De_Ligne);
+  for (Lecteur_Lignes lignes(texte); !lignes.Fini();) {
+    const std::string_view ligne = lignes.Suivante();
+    const auto changee = change(ligne);
+    neuf.append(changee ? *changee : ligne).append(kFin_De_Ligne);
+  }
   disque.WriteAll(temporaire, neuf);
 }
 

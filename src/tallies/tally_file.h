@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,8 @@ bool A_Un_Code(std::string_view ligne, int colonne);
 /// filled up, with "0" from the first code column `premiere` on: the bands between have not been worked.
 std::string Avec_Code(std::string_view ligne, int colonne, std::string_view code, int premiere);
 
-/// What a line of a file becomes; both without their ends.
-using Change_Ligne = std::function<std::string(std::string_view ligne)>;
+/// What a line of a file becomes, nothing if it stays as it is; both without their ends.
+using Change_Ligne = std::function<std::optional<std::string>(std::string_view ligne)>;
 
 /// Reads the file at `chemin` and writes what its lines become, each ended by CR LF, to the file at `temporaire`.
 void Ecrit_Temporaire(Disk& disque, const std::string& chemin, const std::string& temporaire,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -10,7 +11,7 @@ namespace vorelio {
 /// The lines of a tally file in memory, with the first line of each key at hand.
 class Table_Pointage {
  public:
-  /// The key of a line, looking into it.
+  /// The key of a line, of five characters at most.
   using Cle_De = std::string_view (*)(std::string_view ligne);
 
   Table_Pointage(std::string_view texte, Cle_De cle_de);
@@ -32,13 +33,8 @@ class Table_Pointage {
   std::string Texte() const { return Texte_Avant(static_cast<int>(lignes_.size())); }
 
  private:
-  struct Hachage {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view cle) const { return std::hash<std::string_view>{}(cle); }
-  };
-
   std::vector<std::string> lignes_;
-  std::unordered_map<std::string, int, Hachage, std::equal_to<>> premiere_;
+  std::unordered_map<std::uint64_t, int> premiere_;
 };
 
 }  // namespace vorelio

@@ -41,12 +41,12 @@ void Statistique_DFCF::Affiche_Contact_Click() {
 
 void Statistique_DFCF::Enregistrement_Click() {
   const std::string& station = programme_.contexte.Station_Indicatif;
-  const auto ligne = [](const std::string& texte) { return texte + std::string(kFin_De_Ligne); };
+  const auto ligne = [](std::string_view texte) { return std::string(texte).append(kFin_De_Ligne); };
   // The words are of castles whatever the activity: readers of these files know them so.
   std::string texte = ligne(station + " Liste alphanumerique des Chateaux contactés sur "_t + Bande_E.Text() + " au " +
                             Date_Du_Jour(programme_)) +
                       ligne("");
-  for (const std::string& contact : Liste_Chateaux.Items()) texte += ligne(contact);
+  for (const std::string_view contact : Liste_Chateaux.Items()) texte += ligne(contact);
   texte += ligne("") + ligne("Nombre total de Chateaux : " + Texte_Nombre_Blanc(Liste_Chateaux.Count()));
 
   const std::string chemin = programme_.Chemin_Station(" " + Bande_E.Text() + " Alphanumerique.txt");

@@ -27,7 +27,7 @@ void Affiche_Dpt::Montre_Departement(int cellule) {
   const auto& log = programme_.Principale().Journal().Items();
   // The grid numbers Corsica, the log writes its letters. An empty log leaves the number.
   if (!log.empty()) departement = Sous_Programmes::Forme_Affichee(departement);
-  for (const std::string& element : log)
+  for (const std::string_view element : log)
     if (Champ_Liste(element, champs::Depart_Court) == departement) QSO_DU_Dep.AddItem(element);
   Label2.SetCaption(departement);
 }

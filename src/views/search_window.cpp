@@ -107,7 +107,7 @@ bool Recherche_Indicatif::Refuse_Reference() {
 bool Recherche_Indicatif::Parcourt(int option, std::string& texte, const Preneur& prend) {
   Mot_QSL lettre = Lettre_QSL();
   std::string cherche = Texte_Cherche(texte, option);
-  for (const std::string& element : programme_.Principale().Journal().Items()) {
+  for (const std::string_view element : programme_.Principale().Journal().Items()) {
     // A pasted text can begin with the end of a line.
     if (texte.starts_with(kFin_De_Ligne)) {
       texte.erase(0, kFin_De_Ligne.size());
@@ -128,7 +128,7 @@ void Recherche_Indicatif::Cherche() {
   // The option decides, not the field that Enter was pressed in.
   const int option = Option_Choisie();
   std::string texte = Champ(option).Text();
-  const bool complete = Parcourt(option, texte, [this](const std::string& element, const std::string& lettre) {
+  const bool complete = Parcourt(option, texte, [this](std::string_view element, const std::string& lettre) {
     QSO_Effectues.AddItem(Ligne_Trouvee(element, lettre));
   });
   if (texte != Champ(option).Text()) Champ(option).SetText(texte);
@@ -148,13 +148,13 @@ void Recherche_Indicatif::Imprimer_Click() {
   Impression impression(programme_, kTaille_Imprimee, Impression::Gras::Rendu);
   const auto& log = programme_.Principale().Journal().Items();
   const int option = Option_Choisie();
-  const Preneur imprime = [&](const std::string& element, const std::string& lettre) {
+  const Preneur imprime = [&](std::string_view element, const std::string& lettre) {
     impression.Ligne(option == kIndicatif ? Ligne_Courte(element, lettre) : Ligne_Trouvee(element, lettre));
   };
   if (option == kReference) {
     // There is no text to compare with: a reference isn't remembered, and the whole log is printed.
     Mot_QSL lettre = Lettre_QSL();
-    for (const std::string& element : log) imprime(element, lettre.De(Lit_Liste(element, champs::Etat_QSL)));
+    for (const std::string_view element : log) imprime(element, lettre.De(Lit_Liste(element, champs::Etat_QSL)));
   } else if (option == kDepartement) {
     // A search by department keeps no text that a printing could start from: there is nothing to print by.
     if (!log.empty()) throw Erreur_Execution(Erreur::Objet_Absent);

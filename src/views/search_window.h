@@ -27,7 +27,7 @@ class Recherche_Indicatif : public Form {
 
  private:
   /// Takes an item of the log and the letter of its QSL state.
-  using Preneur = std::function<void(const std::string& element, const std::string& lettre)>;
+  using Preneur = std::function<void(std::string_view element, const std::string& lettre)>;
 
   void Relie_Champ(int option, bool majuscules, bool (Recherche_Indicatif::*refuse)());
   TextField& Champ(int option);

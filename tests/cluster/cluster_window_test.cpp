@@ -94,7 +94,7 @@ TEST_F(ClusterWindowTest, AnOrderChangedWhileRowsComeInLoadsOnceMore) {
   Event([&] { form.Check2.UserClick(); });
   EXPECT_EQ(devices.pages.fetched.size(), 2U);
   EXPECT_EQ(form.Liste_Stations.Count(), 2);
-  for (const std::string& line : form.Liste_Stations.Items())
+  for (const std::string_view line : form.Liste_Stations.Items())
     EXPECT_EQ(line.substr(1, 2), line[3] == '7' ? "  " : " 1");
 }
 

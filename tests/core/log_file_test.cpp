@@ -111,6 +111,16 @@ TEST_F(LogFile, AMissingLogAndTheHundredThousandthLineEndTheProgram) {
   EXPECT_EQ(messages.fatal_number, 5);
 }
 
+TEST_F(LogFile, AFullLogTakesNoInsertion) {
+  std::string log;
+  for (int i = 0; i < 99999; ++i) log += "01/01/04  F6ABC       10:00\r\n";
+  auto& ddfm = Start(log);
+  Event([&] { Insere_QSO_Log(*programme, Ligne("01/01/03", "10:00", "NEW")); });
+  EXPECT_EQ(messages.fatal_number, 5);
+  EXPECT_EQ(ddfm.Liste_QSO.Item(0).substr(0, 16), "    1 01/01/04  ");
+  EXPECT_EQ(Read("F9QZX.log"), log);
+}
+
 TEST_F(LogFile, DeletesAndRenumbers) {
   const std::string a = Ligne("01/01/04", "10:00", "A"), c = Ligne("03/01/04", "10:00", "C");
   auto& ddfm = Start(Joined({a, Ligne("02/01/04", "10:00", "B"), c}));

@@ -4,6 +4,7 @@
 #include "core/loading_window.h"
 #include "core/station_files.h"
 #include "entry/ddfm.h"
+#include "support/rows.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -158,7 +159,7 @@ TEST_F(StationFormTest, CountsThatNobodyCanHave) {
   Restart();
   settings.Write("DDFM", "Setup", "Nombre Indicatif", "2");
   Event([&] { Window(); });
-  EXPECT_EQ(Window().Liste_Indicatifs.Items(), (Lines{"F6ABC        JN33BB", "No Call", "Nouvel Indicatif"}));
+  EXPECT_EQ(Texts(Window().Liste_Indicatifs.Items()), (Lines{"F6ABC        JN33BB", "No Call", "Nouvel Indicatif"}));
 }
 
 TEST_F(StationFormTest, FilesAreCopiedInTheirOrderOverWhatExists) {

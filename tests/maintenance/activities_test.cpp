@@ -2,6 +2,7 @@
 #include "entry/ddfm.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/restore_activities_window.h"
+#include "support/rows.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -25,14 +26,14 @@ TEST_F(ActivitiesTest, EachReaderHasItsOwnDefaults) {
   settings.Remove("DDFM", kSection, "NB Activite");
   settings.Remove("DDFM", kSection, "Activite1");
   Event([&] { Adding().Show(); });
-  EXPECT_EQ(Adding().Activ_Exist.Items(), Lines{"Err4"});
+  EXPECT_EQ(Texts(Adding().Activ_Exist.Items()), Lines{"Err4"});
   Event([&] { Adding().UserClose(); });
   EXPECT_EQ(Read("F6ABC_Activite.txt"), "QSO\r\nXXX\r\n");
 
   settings.Write("DDFM", kSection, "NB Activite", "2");
   Event([&] { Adding().Show(); });
   Event([&] { Adding().Command1.UserClick(); });
-  EXPECT_EQ(Main().Activ_A.Items(), (Lines{"QSO", "err5", ""}));
+  EXPECT_EQ(Texts(Main().Activ_A.Items()), (Lines{"QSO", "err5", ""}));
 }
 
 TEST_F(ActivitiesTest, ACountThatNoListHoldsIsAnError) {

@@ -33,7 +33,7 @@ class Banc : public Form {
       Bande.SetFocus();
     };
     Bande.Click = [this] { Clics.SetCaption(Clics.Caption() + std::to_string(Bande.ListIndex())); };
-    Liste.DblClick = [this] { Vu.SetCaption("double " + Liste.Text()); };
+    Liste.DblClick = [this] { Vu.SetCaption(std::string("double ").append(Liste.Text())); };
     Demander.Click = [this] {
       const bool yes = this->programme().Question("Vraiment ?");
       Vu.SetCaption(yes ? "oui" : "non");

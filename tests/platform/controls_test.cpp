@@ -1,8 +1,11 @@
 #include "platform/controls.h"
 
+#include <random>
+
 #include "core/programme.h"
 #include "core/text.h"
 #include "support/error_of.h"
+#include "support/rows.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -155,20 +158,47 @@ TEST_F(Controls, ManyRowsAtOnceAreAsOneByOne) {
     page.sorted.AddItems(first);
     page.sorted.SetListIndex(selected);
     for (const std::string& row : more) page.sorted.AddItem(row);
-    const Lines rows = page.sorted.Items();
+    const Lines rows = Texts(page.sorted.Items());
     const int index = page.sorted.ListIndex();
     page.sorted.ClearItems();
     page.sorted.AddItems(first);
     page.sorted.SetListIndex(selected);
     page.sorted.AddItems(more);
-    EXPECT_EQ(page.sorted.Items(), rows);
+    EXPECT_EQ(Texts(page.sorted.Items()), rows);
     EXPECT_EQ(page.sorted.ListIndex(), index);
   }
 }
 
+TEST_F(Controls, RowsAreAsAVectorOfTexts) {
+  Rows rows;
+  Lines lines;
+  std::mt19937 dice(1);
+  for (int i = 0; i < 2000; ++i) {
+    const std::size_t place = dice() % (lines.size() + 1);
+    const std::string text(dice() % 40, static_cast<char>('a' + i % 26));
+    const auto at = lines.begin() + static_cast<std::ptrdiff_t>(place);
+    if (dice() % 3 == 0 || place == lines.size()) {
+      rows.Insert(place, text);
+      lines.insert(at, text);
+    } else if (dice() % 3 == 0) {
+      rows.Erase(place);
+      lines.erase(at);
+    } else if (dice() % 2 == 0) {
+      rows.Replace(place, text);
+      *at = text;
+    } else {
+      const std::string head = text.substr(0, at->size());
+      rows.WriteOver(place, head);
+      at->replace(0, head.size(), head);
+    }
+    ASSERT_EQ(Texts(rows), lines) << i;
+  }
+  EXPECT_GT(lines.size(), 100U);
+}
+
 TEST_F(Controls, SortedListGoesByBytesEqualOnesByArrival) {
   for (const char* row : {"b", "a", "\xE9", "Z", "a ", "b", " z"}) page.sorted.AddItem(row);
-  EXPECT_EQ(page.sorted.Items(), (Lines{" z", "Z", "a", "a ", "b", "b", "\xE9"}));
+  EXPECT_EQ(Texts(page.sorted.Items()), (Lines{" z", "Z", "a", "a ", "b", "b", "\xE9"}));
   // Equal rows can't be told apart by their text: the selection, which stays on its row, tells where the new one went.
   page.sorted.SetListIndex(4);
   page.sorted.AddItem("b");

@@ -1,5 +1,6 @@
 #include "tallies/callsign_directory.h"
 
+#include "support/rows.h"
 #include "support/station_fixture.h"
 #include "tallies/directory_window.h"
 
@@ -149,7 +150,7 @@ TEST_F(DirectoryWindowTest, EditingReplacesThePickedLine) {
   }
   Fill("a1aa", "2A", "");
   EXPECT_EQ(Press(Window().Editer), Lines{});
-  EXPECT_EQ(Window().Liste_Nomenclature.Items(),
+  EXPECT_EQ(Texts(Window().Liste_Nomenclature.Items()),
             (Lines{"A1AA       2A       ", "DL1ABC     67 JN48AA", "F1XYZ      75   JN18"}));
   EXPECT_EQ(Fields(), "||");
 

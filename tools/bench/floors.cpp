@@ -3,7 +3,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -45,6 +47,16 @@ int CountCallsign(const std::vector<std::string>& lines, std::string_view callsi
 void AppendTo(const std::string& path, std::string_view data, Flush flush) { Write(path, O_APPEND, data, flush); }
 
 void Rewrite(const std::string& path, std::string_view data, Flush flush) { Write(path, 0, data, flush); }
+
+void Replace(const std::string& path, std::string_view data) {
+  const std::string beside = path + ".neuf";
+  Write(beside, O_EXCL, data, Flush::Yes);
+  if (rename(beside.c_str(), path.c_str()) != 0) throw std::runtime_error("cannot name " + path);
+  const int folder = open(std::filesystem::path(path).parent_path().c_str(), O_RDONLY | O_DIRECTORY);
+  const bool flushed = folder >= 0 && fsync(folder) == 0;
+  close(folder);
+  if (!flushed) throw std::runtime_error("cannot flush the folder of " + path);
+}
 
 void ReadAndRewrite(const std::string& path, Flush flush) { Rewrite(path, ReadWhole(path), flush); }
 

@@ -20,6 +20,9 @@ void AppendTo(const std::string& path, std::string_view data, Flush flush);
 /// Writes over the file's contents.
 void Rewrite(const std::string& path, std::string_view data, Flush flush);
 
+/// Writes a file beside, flushes it, gives it the name and flushes the folder: how a file is replaced whole.
+void Replace(const std::string& path, std::string_view data);
+
 /// Reads the file and writes the same over it.
 void ReadAndRewrite(const std::string& path, Flush flush);
 

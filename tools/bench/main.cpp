@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "change_measures.h"
 #include "core/log_file.h"
 #include "core/log_line.h"
 #include "floors.h"
@@ -35,10 +36,7 @@ void MeasureReading(std::vector<Row>& rows, int contacts) {
   // Without lines there is nothing to stand on.
   const auto floor = [contacts](double time) { return contacts > 0 ? std::optional(time) : std::nullopt; };
   rows.push_back({"Load the log", contacts, load[0], floor(load[1]), {}, {}, {}});
-  if (contacts > 0) {
-    rows.back().target = "3 times the floor at most";
-    rows.back().met = load[0] <= 3 * load[1];
-  }
+  if (contacts > 0) SetTarget(rows.back(), "3 times the floor at most", load[0] <= 3 * load[1]);
 
   volatile int found = 0;
   const auto look_up = Medians(kRounds, {{[&] {
@@ -50,21 +48,16 @@ void MeasureReading(std::vector<Row>& rows, int contacts) {
   rows.push_back({"Look a new callsign up", contacts, look_up[0], floor(look_up[1]), {}, "under 5 ms", look_up[0] < 5});
 }
 
-/// Measures saves into a log that is full with the last of them; gives the median.
-double MeasureSaves(std::vector<Row>& rows, int contacts, DateMode mode) {
-  const bool automatic = mode == DateMode::Automatic;
-  StationRun run(contacts < kFull_Log ? contacts : contacts - kRounds - 1, mode);
+/// Measures saves at the end of a log, which is full with the last of them; gives the median.
+double MeasureSaves(std::vector<Row>& rows, int contacts) {
+  StationRun run(contacts < kFull_Log ? contacts : contacts - kRounds - 1, DateMode::Automatic);
   const std::string scratch = run.File("_floor.log");
-  const std::string log = MakeLog(contacts);
   const std::string line(kLargeur_Ligne + kFin_De_Ligne.size(), 'x');
-  Rewrite(scratch, log, Flush::Yes);
-  const auto floor = [&](Flush flush) {
-    return Work{{}, [&, flush] { automatic ? AppendTo(scratch, line, flush) : Rewrite(scratch, log, flush); }};
-  };
+  Rewrite(scratch, MakeLog(contacts), Flush::Yes);
+  const auto floor = [&](Flush flush) { return Work{{}, [&, flush] { AppendTo(scratch, line, flush); }}; };
   const auto times =
       Medians(kRounds, {{[&] { run.FillIn(); }, [&] { run.Save(); }}, floor(Flush::No), floor(Flush::Yes)});
-  rows.push_back(
-      {automatic ? "Save, automatic date" : "Save, manual date", contacts, times[0], times[1], times[2], {}, {}});
+  rows.push_back({"Save a contact", contacts, times[0], times[1], times[2], {}, {}});
   return times[0];
 }
 
@@ -86,18 +79,17 @@ void MeasureTallies(std::vector<Row>& rows) {
 }
 
 void MeasureStarts(std::vector<Row>& rows) {
-  const StartTime empty = MeasureStart(0, kRounds);
-  const StartTime full = MeasureStart(kFull_Log, kRounds);
-  rows.push_back({"Start, inside the process", 0, empty.inside, {}, {}, {}, {}});
-  rows.push_back({"Start, inside the process", kFull_Log, full.inside, {}, {}, {}, {}});
-  rows.push_back({"Start, seen from outside", 0, empty.outside, {}, {}, {}, {}});
-  rows.push_back({"Start, seen from outside",
-                  kFull_Log,
-                  full.outside,
-                  {},
-                  {},
-                  "200 ms longer than with 0 at most",
-                  full.outside - empty.outside <= 200});
+  const StartCost empty = MeasureStart(0, kRounds);
+  for (const int contacts : {0, 1000, 10000, kFull_Log}) {
+    const StartCost start = contacts == 0 ? empty : MeasureStart(contacts, kRounds);
+    const bool full = contacts == kFull_Log;
+    rows.push_back({"Start, inside the process", contacts, start.inside, {}, {}, {}, {}});
+    rows.push_back({"Start, seen from outside", contacts, start.outside, {}, {}, {}, {}});
+    if (full) SetTarget(rows.back(), "40 ms longer than with 0 at most", start.outside - empty.outside <= 40);
+    rows.push_back({"Memory of the process", contacts, {}, {}, {}, {}, {}});
+    rows.back().mebibytes = start.mebibytes;
+    if (full) SetTarget(rows.back(), "25 MiB more than with 0 at most", start.mebibytes - empty.mebibytes <= 25);
+  }
 }
 
 void MeasureAll() {
@@ -106,12 +98,10 @@ void MeasureAll() {
   for (const int contacts : {0, 1000, 10000, kFull_Log}) {
     std::fprintf(stderr, "%d QSOs...\n", contacts);
     MeasureReading(rows, contacts);
-    saves.push_back(MeasureSaves(rows, contacts, DateMode::Automatic));
-    if (contacts == kFull_Log) {
-      rows.back().target = "as with 0, to a quarter and 2 ms";
-      rows.back().met = saves.back() <= 1.25 * saves.front() + 2;
-    }
-    MeasureSaves(rows, contacts, DateMode::Manual);
+    saves.push_back(MeasureSaves(rows, contacts));
+    if (contacts == kFull_Log)
+      SetTarget(rows.back(), "as with 0, to a quarter and 2 ms", saves.back() <= 1.25 * saves.front() + 2);
+    if (contacts > 0) MeasureChanges(rows, contacts);
   }
   std::fprintf(stderr, "Tallies and starts...\n");
   MeasureTallies(rows);
@@ -125,6 +115,7 @@ void MeasureAll() {
   MeasureViews(rows);
   MeasureStarts(rows);
   Print(rows);
+  PrintGrowth(rows);
 }
 
 }  // namespace

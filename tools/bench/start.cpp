@@ -1,7 +1,10 @@
 // Starts the program as its own main does, on a folder and with settings apart from the user's, and ends it as soon as
-// the main window is on the screen and waits for a key. Prints how long that took, in milliseconds.
+// the main window is on the screen and waits for a key. Prints how long that took, in milliseconds, and what memory it
+// then holds, in MiB.
 //   bench_start prepare FOLDER CONTACTS    makes a ready station in the empty folder
 //   bench_start start FOLDER
+
+#include <unistd.h>
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -10,6 +13,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 
 #include "core/station_files.h"
 #include "doubles/ready_station.h"
@@ -45,6 +49,14 @@ void Prepare(const QString& folder, int contacts) {
   services.disk.WriteAll(run.programme.Chemin_Log(kStation), bench::MakeLog(contacts));
 }
 
+/// What the process holds in memory now.
+double ResidentMebibytes() {
+  std::ifstream file("/proc/self/statm");
+  double all = 0, resident = 0;
+  file >> all >> resident;
+  return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1024 * 1024);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -67,7 +79,7 @@ int main(int argc, char** argv) {
     const QWidget* widget = main ? windows.WindowOf(*main) : nullptr;
     if (!widget || !widget->windowHandle() || !widget->windowHandle()->isExposed()) return;
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
-    std::printf("%.3f\n", time.count());
+    std::printf("%.3f %.2f\n", time.count(), ResidentMebibytes());
     std::fflush(stdout);
     // What the end of the program costs is another matter.
     std::_Exit(0);

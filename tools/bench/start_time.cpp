@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -53,18 +54,21 @@ std::string RunStart(std::vector<std::string> words) {
 
 }  // namespace
 
-StartTime MeasureStart(int contacts, int rounds) {
+StartCost MeasureStart(int contacts, int rounds) {
   const doubles::ScratchFolder folder;
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   // The offscreen platform warns of what it can't do.
   setenv("QT_LOGGING_RULES", "*.warning=false", 1);
   setenv("XDG_RUNTIME_DIR", folder.Path().c_str(), 1);
   RunStart({"prepare", folder.Path(), std::to_string(contacts)});
-  std::vector<double> inside;
-  const Work start{{}, [&] { inside.push_back(std::stod(RunStart({"start", folder.Path()}))); }};
+  std::vector<double> inside, mebibytes;
+  const Work start{{}, [&] {
+                     std::istringstream printed(RunStart({"start", folder.Path()}));
+                     printed >> inside.emplace_back() >> mebibytes.emplace_back();
+                   }};
   const double outside = Medians(rounds, {start}).front();
   inside.erase(inside.begin());
-  return {outside, Median(inside)};
+  return {outside, Median(inside), Median(mebibytes)};
 }
 
 }  // namespace vorelio::bench

@@ -40,9 +40,9 @@ void StationRun::Cancel() {
   MustStillRun();
 }
 
-void StationRun::FillIn() {
+void StationRun::FillIn(const std::string& date) {
   const std::map<const Control*, std::string> texts = {{&Main().Indicatif_A, "F5XYZ"}, {&Main().Depart_A, "57"},
-                                                       {&Main().Date_A, "31/12/49"},   {&Main().Debut_A, "12:00"},
+                                                       {&Main().Date_A, date},         {&Main().Debut_A, "12:00"},
                                                        {&Main().Fin_A, "12:01"},       {&Main().Prenom_A, "Michel"}};
   constexpr int kMost_Fields = 30;
   for (int i = 0; !Main().Enregistrer.Enabled() && i < kMost_Fields; ++i) {

@@ -40,8 +40,8 @@ class StationRun {
   void LookUp();
   /// Drops what has been typed.
   void Cancel();
-  /// Goes through the whole chain of a contact, up to the button that saves it.
-  void FillIn();
+  /// Goes through the whole chain of a contact, up to the button that saves it; its date is asked for in manual mode.
+  void FillIn(const std::string& date = "31/12/49");
   void Save();
 
  private:

@@ -39,14 +39,26 @@ std::string Milliseconds(std::optional<double> time) {
   return text;
 }
 
-std::string Ratio(double time, std::optional<double> floor) {
-  if (!floor) return "";
+std::string Ratio(std::optional<double> time, std::optional<double> floor) {
+  if (!time || !floor) return "";
   char text[32];
-  std::snprintf(text, sizeof text, "%.1f", time / *floor);
+  std::snprintf(text, sizeof text, "%.1f", *time / *floor);
+  return text;
+}
+
+std::string Measured(const Row& row) {
+  if (!row.mebibytes) return Milliseconds(row.time);
+  char text[32];
+  std::snprintf(text, sizeof text, "%.1f MiB", *row.mebibytes);
   return text;
 }
 
 }  // namespace
+
+void SetTarget(Row& row, const std::string& target, bool met) {
+  row.target = target;
+  row.met = met;
+}
 
 void Print(const std::vector<Row>& rows) {
   constexpr const char* kLine = "| %-34s | %6s | %9s | %9s | %6s | %9s | %6s | %-42s |\n";
@@ -54,9 +66,26 @@ void Print(const std::vector<Row>& rows) {
   std::printf("| --- | ---: | ---: | ---: | ---: | ---: | ---: | --- |\n");
   for (const Row& row : rows) {
     const std::string verdict = row.target + (!row.met ? "" : *row.met ? ": met" : ": MISSED");
-    std::printf(kLine, row.what.c_str(), std::to_string(row.contacts).c_str(), Milliseconds(row.time).c_str(),
+    std::printf(kLine, row.what.c_str(), std::to_string(row.contacts).c_str(), Measured(row).c_str(),
                 Milliseconds(row.floor).c_str(), Ratio(row.time, row.floor).c_str(),
                 Milliseconds(row.flushed_floor).c_str(), Ratio(row.time, row.flushed_floor).c_str(), verdict.c_str());
+  }
+}
+
+void PrintGrowth(const std::vector<Row>& rows) {
+  constexpr const char* kLine = "| %-34s | %9s | %9s | %9s |\n";
+  std::printf("\n");
+  std::printf(kLine, "What, by QSOs in the log", "1000", "10000", "99999");
+  std::printf("| --- | ---: | ---: | ---: |\n");
+  for (const Row& row : rows) {
+    if (row.contacts != 1000) continue;
+    const auto with = [&](int contacts) {
+      const auto place = std::find_if(rows.begin(), rows.end(), [&](const Row& other) {
+        return other.what == row.what && other.contacts == contacts;
+      });
+      return place == rows.end() ? std::string{} : Measured(*place);
+    };
+    std::printf(kLine, row.what.c_str(), with(1000).c_str(), with(10000).c_str(), with(99999).c_str());
   }
 }
 

@@ -54,7 +54,7 @@ void ComboView::ShowDeferred() {
   if (items_changed_) {
     items_changed_ = false;
     QStringList rows;
-    for (const std::string& item : control_.Items()) rows << ToQt(item);
+    for (const std::string_view item : control_.Items()) rows << ToQt(item);
     shown_.clear();
     shown_.addItems(rows);
   }

@@ -24,7 +24,7 @@ int RowsModel::rowCount(const QModelIndex& parent) const { return parent.isValid
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
   if (!list_ || !index.isValid()) return {};
   if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
-    return ToQt(std::string_view(list_->Item(index.row())).substr(0, kLongestRow));
+    return ToQt(list_->Item(index.row()).substr(0, kLongestRow));
   if (role == Qt::CheckStateRole && list_->Genre() == ListBox::Kind::Checked)
     return list_->Checked(index.row()) ? Qt::Checked : Qt::Unchecked;
   return {};
@@ -36,7 +36,7 @@ int RowsModel::Reset() {
   endResetModel();
   std::size_t widest = 0;
   if (list_)
-    for (const std::string& item : list_->Items()) widest = std::max(widest, std::min(item.size(), kLongestRow));
+    for (const std::string_view item : list_->Items()) widest = std::max(widest, std::min(item.size(), kLongestRow));
   return static_cast<int>(widest);
 }
 
