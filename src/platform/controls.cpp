@@ -174,12 +174,9 @@ void ListControl::Merge(const std::vector<std::string>& texts) {
   Notify(Property::Items);
 }
 
-void ListControl::Append(std::vector<std::string> texts) {
+void ListControl::Append(const std::vector<std::string>& texts) {
   if (texts.empty()) return;
-  if (items_.empty())
-    items_ = std::move(texts);
-  else
-    items_.insert(items_.end(), std::make_move_iterator(texts.begin()), std::make_move_iterator(texts.end()));
+  for (const std::string& text : texts) items_.Append(text);
   Notify(Property::Items);
 }
 

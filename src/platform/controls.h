@@ -187,7 +187,7 @@ class ListControl : public Control {
   /// Selects without a click.
   virtual void TakeIndex(int index);
   void InsertAt(int index, std::string_view text);
-  void Append(std::vector<std::string> texts);
+  void Append(const std::vector<std::string>& texts);
   /// Puts sorted rows among the sorted ones that are there, after equal ones.
   void Merge(const std::vector<std::string>& texts);
   void EraseAt(int index);

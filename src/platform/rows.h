@@ -9,7 +9,7 @@
 
 namespace vorelio {
 
-/// The texts of a list, one behind another in one piece of memory: a log has up to 99,999, and a memory block for each
+/// The texts of a list, one after another in one piece of memory: a log has up to 99,999, and a memory block for each
 /// would cost more time and room than the texts. What they are read by looks into the rows, until the next change.
 class Rows {
  public:
