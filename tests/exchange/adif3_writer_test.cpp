@@ -13,7 +13,7 @@ namespace {
 Contexte_Journal Home() { return {"F9QZX/P", "JN33BB", {"QSO", "DFCF", "IOTA", "POTA"}, {}}; }
 
 TEST(Adif3Writer, OneRecord) {
-  Champs_QSO qso = Contact({"31/12/87", "F6ABC", "23:59", "00:12", "2a", "JN33BC", "144 Mhz", "FT4", "59001", "-10",
+  Champs_QSO qso = Contact({"31/12/50", "F6ABC", "23:59", "00:12", "2a", "JN33BC", "144 Mhz", "FT4", "59001", "-10",
                             "DFCF 89125", "Ren\xE9"});
   qso.Bloc_QSL = Blancs(7) + "4 02/01/88 15/06/88 ";
   qso.Distance_A = "5";
@@ -21,7 +21,7 @@ TEST(Adif3Writer, OneRecord) {
   qso.Activ_A = "1";
   qso.Remarques_A = "C. de X";
   EXPECT_EQ(Enregistrement_ADIF3(Construit_Ligne(qso), Home()),
-            "<CALL:5>F6ABC <QSO_DATE:8>19871231 <TIME_ON:4>2359 <TIME_OFF:4>0012 <BAND:2>2M <MODE:4>MFSK "
+            "<CALL:5>F6ABC <QSO_DATE:8>19501231 <TIME_ON:4>2359 <TIME_OFF:4>0012 <BAND:2>2M <MODE:4>MFSK "
             "<SUBMODE:3>FT4 <RST_SENT:5>59001 <RST_RCVD:3>-10 <STATE:2>2A <GRIDSQUARE:6>JN33BC <DISTANCE:1>5 "
             "<ANT_AZ:1>1 <NAME:5>Ren\xC3\xA9 <QTH:10>DFCF 89125 <COMMENT:7>C. de X <QSL_SENT:1>Y <QSL_RCVD:1>Y "
             "<QSLSDATE:8>19880102 <QSLRDATE:8>19880615 <SIG:4>DFCF <SIG_INFO:5>89125 <STATION_CALLSIGN:7>F9QZX/P "

@@ -179,7 +179,7 @@ TEST(Journal, RefusalsSayWhy) {
 }
 
 TEST(Journal, Edi) {
-  const std::string head = "[REG1TEST;1]\r\nTName=Rallye\r\nPCall=F9QZX\r\nPWWLo=JN33BB\r\nPBand=";
+  const std::string head = "[REG1TEST;1]\r\nTName=Rallye\r\nPCall=F9QZX\r\nPWWLo=JN43BB\r\nPBand=";
   const std::string records = "\r\n[Remarks]\r\nsome; words\r\n[QSORecords;1]\r\n";
   const std::string two = head + "144 MHz" + records +
                           "030512;1234;F9XKV;1;59;001;59;002;06;JN33BB;1;;N;N;;\r\n"
@@ -189,9 +189,9 @@ TEST(Journal, Edi) {
                           "500101;0000;ERROR;;;;;;;;0;;;;";
   EXPECT_EQ(Read(two),
             "EDI (REG1TEST), Rallye, 144 MHz, 1,3 GHz\n"
-            "12/05/03|F9XKV|12:34|12:34|06|JN33BB|144 Mhz|SSB|59001|59002|1|0|?|0\n"
-            "12/05/03|DL1XYZ/P|12:35|12:35|JO40AA|144 Mhz|CW|599002|599017|1|788|10|0\n"
-            "31/12/49|2E0AA|23:59|23:59|IO91LL|1.3 Ghz|FM|59001|59002|1|1081|333|0|KENT\n"
+            "12/05/03|F9XKV|12:34|12:34|06|JN33BB|144 Mhz|SSB|59001|59002|1|163|271|0\n"
+            "12/05/03|DL1XYZ/P|12:35|12:35|JO40AA|144 Mhz|CW|599002|599017|1|775|360|0\n"
+            "31/12/49|2E0AA|23:59|23:59|IO91LL|1.3 Ghz|FM|59001|59002|1|1163|327|0|KENT\n"
             "-3:12 DL1XYZ/P: Heure impossible : 1299\n-5:23 ERROR: QSO noté en erreur");
   EXPECT_EQ(Fichier_Refuses(Lit_Journal(two, Home())),
             head + "144 MHz" + records + "030512;1299;DL1XYZ/P;2;599;002;599;017;;JO40AA;512;;;;\r\n" + head +
