@@ -106,4 +106,6 @@ std::uint64_t Disque_Tenu::Size(const std::string& path) {
   return En_Memoire(path) ? ReadAll(path).size() : Pret().Size(path);
 }
 
+Instant Disque_Tenu::Written(const std::string& path) { return Pret().Written(path); }
+
 }  // namespace vorelio

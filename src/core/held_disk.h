@@ -65,6 +65,7 @@ class Disque_Tenu : public Disk {
   void Delete(const std::string& path) override;
   bool Exists(const std::string& path) override;
   std::uint64_t Size(const std::string& path) override;
+  Instant Written(const std::string& path) override;
 
  private:
   /// What has become of a file in a group; nothing if it was deleted.

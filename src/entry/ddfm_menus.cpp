@@ -111,6 +111,7 @@ void DDFM::Mnu_Mode_Emploi_Click() {
 }
 
 void DDFM::Mnu_Restauration_Click() {
+  Etat.SetCaption(Decrit_Sauvegarde(programme_));
   if (!programme_.Avertissement("   !!! ATTENTION !!! Tout les fichiers vont etre effacé\r\n"
                                 "et remplacé par ceux de la derniere sauvegarde, Continuer ?"_t))
     return;

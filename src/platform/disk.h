@@ -6,6 +6,8 @@
 
 namespace vorelio {
 
+struct Instant;
+
 /// The disk. Every operation either has done what it says, or raises the run-time error named with it, the path in its
 /// text: 53 no such file, 76 no such folder, 70 not permitted, 75 not a file, 61 disk full, 71 the device failed.
 /// What writes flushes to the device before it returns.
@@ -33,6 +35,9 @@ class Disk {
 
   /// In bytes; a missing file is 53.
   virtual std::uint64_t Size(const std::string& path) = 0;
+
+  /// When the file was last written, by the local clock; a missing file is 53.
+  virtual Instant Written(const std::string& path) = 0;
 };
 
 }  // namespace vorelio

@@ -37,6 +37,7 @@ class PosixDisk : public Disk {
   /// A folder is no file.
   bool Exists(const std::string& path) override;
   std::uint64_t Size(const std::string& path) override;
+  Instant Written(const std::string& path) override;
 
  private:
   std::string SystemPath(const std::string& path) const;

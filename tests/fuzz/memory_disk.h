@@ -22,6 +22,10 @@ class MemoryDisk : public Disk {
   }
   bool Exists(const std::string& path) override { return files.count(path) > 0; }
   std::uint64_t Size(const std::string& path) override { return Known(path).size(); }
+  Instant Written(const std::string& path) override {
+    Known(path);
+    return {};
+  }
 
   std::map<std::string, std::string> files;
 

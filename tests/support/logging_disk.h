@@ -29,6 +29,7 @@ class LoggingDisk : public Disk {
   void Delete(const std::string& path) override { Noted("delete", path).Delete(path); }
   bool Exists(const std::string& path) override { return Noted("exists", path).Exists(path); }
   std::uint64_t Size(const std::string& path) override { return Noted("size", path).Size(path); }
+  Instant Written(const std::string& path) override { return inner_.Written(path); }
 
   /// "read X", "write X", "append X", "copy X Y", "delete X", "exists X", "size X", in order; a failing one too.
   const Lines& Log() const { return log_; }
