@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/errors.h"
+#include "platform/platform.h"
 
 namespace vorelio {
 

@@ -55,10 +55,12 @@ std::string Decrit_Sauvegarde(Programme& programme) {
     const std::string texte = disque.ReadAll(log);
     int nombre = 0;
     for (Lecteur_Lignes lignes(texte); !lignes.Fini(); lignes.Suivante()) ++nombre;
-    return "Sauvegarde du " + jour + " : " + std::to_string(nombre) + " QSO ; log avant restauration : " +
-           std::to_string(programme.Principale().Journal().Count()) + " QSO";
+    return "Sauvegarde du " + jour + " : " + std::to_string(nombre) +
+           " QSO ; log avant restauration : " + std::to_string(programme.Principale().Journal().Count()) + " QSO";
   } catch (const Erreur_Execution& erreur) {
-    return (erreur.Numero() == static_cast<int>(Erreur::Fichier_Introuvable) ? "Pas de sauvegarde : " : "Sauvegarde illisible : ") + log;
+    return (erreur.Numero() == static_cast<int>(Erreur::Fichier_Introuvable) ? "Pas de sauvegarde : "
+                                                                             : "Sauvegarde illisible : ") +
+           log;
   }
 }
 

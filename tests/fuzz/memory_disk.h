@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "core/errors.h"
-#include "platform/disk.h"
+#include "platform/platform.h"
 
 namespace vorelio::tests {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/errors.h"
-#include "platform/disk.h"
+#include "platform/platform.h"
 
 namespace vorelio::tests {
 
