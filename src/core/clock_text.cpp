@@ -29,10 +29,11 @@ void Verifie_Forme(std::string_view texte, std::string_view modele, int& erreur)
 std::string Date_UTC(Programme& programme) { return Date(programme.plateforme.clock.Utc()); }
 std::string Date_Locale(Programme& programme) { return Date(programme.plateforme.clock.Local()); }
 
-std::string Date_Du_Jour(Programme& programme) {
-  const Instant instant = programme.plateforme.clock.Local();
+std::string Date_Longue(const Instant& instant) {
   return Deux_Chiffres(instant.day) + "/" + Deux_Chiffres(instant.month) + "/" + std::to_string(instant.year);
 }
+
+std::string Date_Du_Jour(Programme& programme) { return Date_Longue(programme.plateforme.clock.Local()); }
 
 std::string Horodatage(Programme& programme) {
   const Instant instant = programme.plateforme.clock.Local();

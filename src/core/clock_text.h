@@ -15,6 +15,9 @@ std::string Date_Locale(Programme& programme);
 /// Today by the local clock with the year in full, dd/mm/yyyy: for the titles of listings.
 std::string Date_Du_Jour(Programme& programme);
 
+/// dd/mm/yyyy.
+std::string Date_Longue(const Instant& instant);
+
 /// yyyymmdd-hhmmss by the local clock: for the names of files.
 std::string Horodatage(Programme& programme);
 

@@ -85,4 +85,6 @@ std::uint64_t Disque_Groupe::Size(const std::string& path) {
   return memoire_.count(path) > 0 ? ReadAll(path).size() : disk_.Size(path);
 }
 
+Instant Disque_Groupe::Written(const std::string& path) { return disk_.Written(path); }
+
 }  // namespace vorelio

@@ -34,6 +34,7 @@ class Disque_Groupe : public Disk {
   void Delete(const std::string& path) override;
   bool Exists(const std::string& path) override;
   std::uint64_t Size(const std::string& path) override;
+  Instant Written(const std::string& path) override;
   /// Of the file on the disk: no log is changed in a group.
   std::optional<FileStamp> Stamp(const std::string& path) override { return disk_.Stamp(path); }
 

@@ -91,7 +91,11 @@ void DDFM::Relie_Menus() {
   Mnu_Historique.Click = [this] { programme_.Message(Historique_Revisions()); };
   Mnu_A_Propos.Click = [this] {
     programme_.Message(std::string("Vorelio\r\n   revision ") + Revision_Programme +
-                       "\r\n\r\nUn carnet de trafic pour les radioamateurs français, par F4VRL"_t);
+                       "\r\n\r\nUn carnet de trafic pour les radioamateurs français, par F4VRL\r\n\r\n"
+                       "Contours des départements : MapSVG et svg-maps, CC BY 4.0\r\n"
+                       "Côtes et frontières : Natural Earth, domaine public, par world-atlas, ISC\r\n"
+                       "Préfixes : liste DXCC de l'ARRL et séries d'indicatifs de l'UIT\r\n"
+                       "Les licences sont à la fin du mode d'emploi."_t);
   };
 }
 
@@ -106,6 +110,7 @@ void DDFM::Mnu_Date_Automatique(bool automatique) {
 }
 
 void DDFM::Mnu_Restauration_Click() {
+  Etat.SetCaption(Decrit_Sauvegarde(programme_));
   if (!programme_.Avertissement("   !!! ATTENTION !!! Tout les fichiers vont etre effacé\r\n"
                                 "et remplacé par ceux de la derniere sauvegarde, Continuer ?"_t))
     return;

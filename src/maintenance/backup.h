@@ -10,6 +10,10 @@ namespace vorelio::Sous_Programmes {
 /// before it copied.
 void Sauvegarde_Auto(Programme& programme);
 
+/// Of which day the backup is, and how many contacts it and the log in `Liste_QSO` hold; or that there is none, or none
+/// that can be read. For the status line.
+std::string Decrit_Sauvegarde(Programme& programme);
+
 /// Copies log and tallies back from the backup, in this order.
 void Restaure_Sauvegarde(Programme& programme);
 

@@ -7,6 +7,8 @@
 
 namespace vorelio {
 
+struct Instant;
+
 /// What tells whether a file is still the one that it was: a write by whomever changes it.
 struct FileStamp {
   std::uint64_t device = 0;
@@ -49,6 +51,9 @@ class Disk {
 
   /// In bytes; a missing file is 53.
   virtual std::uint64_t Size(const std::string& path) = 0;
+
+  /// When the file was last written, by the local clock; a missing file is 53.
+  virtual Instant Written(const std::string& path) = 0;
 
   /// The file's stamp; none if there is no such file.
   virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;

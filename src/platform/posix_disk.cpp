@@ -8,12 +8,14 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <ctime>
 #include <limits>
 #include <memory>
 #include <utility>
 
 #include "core/errors.h"
 #include "core/text.h"
+#include "platform/platform.h"
 
 namespace vorelio {
 
@@ -279,6 +281,13 @@ class Target {
   std::size_t size_ = 0;
 };
 
+struct stat StatusOf(const std::string& path, const std::string& name) {
+  struct stat status {};
+  if (stat(name.c_str(), &status) < 0) Fail(errno, path, name, Folder::AsFile);
+  if (S_ISDIR(status.st_mode)) throw Erreur_Execution(Erreur::Acces_Chemin, path);
+  return status;
+}
+
 }  // namespace
 
 // --- PosixDisk ------------------------------------------------------------------------------------------------------
@@ -400,11 +409,14 @@ bool PosixDisk::Exists(const std::string& path) {
 }
 
 std::uint64_t PosixDisk::Size(const std::string& path) {
-  const std::string name = SystemPath(path);
-  struct stat status {};
-  if (stat(name.c_str(), &status) < 0) Fail(errno, path, name, Folder::AsFile);
-  if (S_ISDIR(status.st_mode)) throw Erreur_Execution(Erreur::Acces_Chemin, path);
-  return static_cast<std::uint64_t>(status.st_size);
+  return static_cast<std::uint64_t>(StatusOf(path, SystemPath(path)).st_size);
+}
+
+Instant PosixDisk::Written(const std::string& path) {
+  const time_t seconds = StatusOf(path, SystemPath(path)).st_mtime;
+  struct tm local {};
+  if (localtime_r(&seconds, &local) == nullptr) throw Erreur_Execution(Erreur::Acces_Chemin, path);
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 
 std::optional<FileStamp> PosixDisk::Stamp(const std::string& path) {

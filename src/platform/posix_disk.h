@@ -42,6 +42,7 @@ class PosixDisk : public Disk {
   bool Exists(const std::string& path) override;
   std::uint64_t Size(const std::string& path) override;
   std::optional<FileStamp> Stamp(const std::string& path) override;
+  Instant Written(const std::string& path) override;
 
  private:
   std::string SystemPath(const std::string& path) const;

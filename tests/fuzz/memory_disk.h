@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "core/errors.h"
-#include "platform/disk.h"
+#include "platform/platform.h"
 
 namespace vorelio::tests {
 
@@ -31,6 +31,10 @@ class MemoryDisk : public Disk {
   std::uint64_t Size(const std::string& path) override { return Known(path).size(); }
   std::optional<FileStamp> Stamp(const std::string& path) override {
     return Exists(path) ? std::optional(FileStamp{.size = Size(path)}) : std::nullopt;
+  }
+  Instant Written(const std::string& path) override {
+    Known(path);
+    return {};
   }
 
   std::map<std::string, std::string> files;

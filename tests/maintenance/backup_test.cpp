@@ -1,6 +1,11 @@
 #include "maintenance/backup.h"
 
+#include <chrono>
+#include <ctime>
+#include <filesystem>
+
 #include "core/text.h"
+#include "entry/ddfm.h"
 #include "support/station_fixture.h"
 
 namespace vorelio::tests {
@@ -60,6 +65,29 @@ TEST_F(BackupTest, AFailureIsSeenWithTheFilesBeforeItCopied) {
   settings.Write("DDFM", kSection, "Chemin Sauvegarde", folder.File("nowhere/F6"));
   Save();
   EXPECT_EQ(programme->Erreur_Fatale(), 76);
+}
+
+TEST_F(BackupTest, TheStatusLineTellsWhatWouldComeBack) {
+  Event([&] { programme->Fenetre<DDFM>(); });
+  const auto told = [&] {
+    messages.Answer(false);
+    Event([&] { programme->Fenetre<DDFM>().Mnu_Restauration.UserClick(); });
+    messages.TakeQuestions();
+    return programme->Fenetre<DDFM>().Etat.Caption();
+  };
+  EXPECT_EQ(told(), "Pas de sauvegarde : " + folder.File("sauve/F6.bak"));
+
+  Write("sauve/F6.bak", "one\r\ntwo\r\nthree");
+  struct tm day {
+    .tm_mday = 9, .tm_mon = 4, .tm_year = 103
+  };
+  const auto noon = std::chrono::system_clock::from_time_t(std::mktime(&day)) + std::chrono::hours(12);
+  std::filesystem::last_write_time(folder.File("sauve/F6.bak"), std::chrono::file_clock::from_sys(noon));
+  EXPECT_EQ(told(), "Sauvegarde du 09/05/2003 : 3 QSO ; log avant restauration : 1 QSO");
+
+  disk.FailOn("read sauve/F6.bak", Erreur::Disque_Non_Pret);
+  EXPECT_EQ(told(), "Sauvegarde illisible : " + folder.File("sauve/F6.bak"));
+  EXPECT_EQ(Read("F6ABC.log"), "log");
 }
 
 TEST_F(BackupTest, RestoringBringsLogAndTalliesBack) {

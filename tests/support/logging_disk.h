@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "core/errors.h"
-#include "platform/disk.h"
+#include "platform/platform.h"
 
 namespace vorelio::tests {
 
@@ -33,6 +33,7 @@ class LoggingDisk : public Disk {
   void Delete(const std::string& path) override { Noted("delete", path).Delete(path); }
   bool Exists(const std::string& path) override { return Noted("exists", path).Exists(path); }
   std::uint64_t Size(const std::string& path) override { return Noted("size", path).Size(path); }
+  Instant Written(const std::string& path) override { return inner_.Written(path); }
   /// Isn't logged: it neither reads nor changes.
   std::optional<FileStamp> Stamp(const std::string& path) override { return inner_.Stamp(path); }
 

@@ -2,6 +2,9 @@
 
 #include <QDir>
 #include <QImageWriter>
+#include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <stdexcept>
 
 namespace vorelio::maps {
@@ -119,13 +122,46 @@ QImage Draw(double width, double height, const std::function<void(QPainter&)>& d
   return image;
 }
 
+namespace {
+
+struct Size {
+  int scale;
+  QString ending;
+};
+
+std::array<Size, 2> Sizes() { return {{{1, QStringLiteral(".jpg")}, {2, QStringLiteral("@2x.jpg")}}}; }
+
+QImage Reduced(const QImage& large, int scale) {
+  return large.scaled(large.size() * scale / kOversize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// Shades that a decoded picture may lie off, and the share of its pixels that may lie further off.
+constexpr int kShades = 40;
+constexpr double kShare = 0.002;
+
+bool Alike(const QImage& one, const QImage& other) {
+  if (one.size() != other.size()) return false;
+  int off = 0;
+  for (int y = 0; y < one.height(); ++y)
+    for (int x = 0; x < one.width(); ++x) {
+      const QColor a = one.pixelColor(x, y), b = other.pixelColor(x, y);
+      off += std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()), std::abs(a.blue() - b.blue())}) >
+             kShades;
+    }
+  return off <= kShare * one.width() * one.height();
+}
+
+}  // namespace
+
 void Save(const QImage& large, const QString& folder, const QString& name) {
-  const auto reduced = [&](int scale) {
-    const QSize size = large.size() * scale / kOversize;
-    return large.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  };
-  Write(reduced(1), QDir(folder).filePath(name + QStringLiteral(".jpg")));
-  Write(reduced(2), QDir(folder).filePath(name + QStringLiteral("@2x.jpg")));
+  for (const auto& [scale, ending] : Sizes()) Write(Reduced(large, scale), QDir(folder).filePath(name + ending));
+}
+
+bool Shows(const QString& folder, const QString& name, const QImage& large) {
+  const auto sizes = Sizes();
+  return std::all_of(sizes.begin(), sizes.end(), [&](const Size& size) {
+    return Alike(QImage(QDir(folder).filePath(name + size.ending)), Reduced(large, size.scale));
+  });
 }
 
 }  // namespace vorelio::maps
