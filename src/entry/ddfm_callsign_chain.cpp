@@ -1,6 +1,7 @@
 #include "core/bands.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "entry/distance_azimuth.h"
 #include "geo/locator.h"
 #include "tallies/callsign_directory.h"
 #include "tallies/department_tally.h"

@@ -3,8 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
-
 /// Locators, and the great circle between the centres of two sub-squares on a sphere of 40076.59 km circumference. The
 /// constants stay as they are: the distances in operators' logs were computed with them, and are compared with new
 /// ones.
@@ -35,12 +33,5 @@ double Arc_Sinus_Negatif(double x);
 /// itself, or the other end of the world, they are run-time errors.
 int Kilometres(std::string_view locator_1, std::string_view locator_2);
 int Degres(std::string_view locator_1, std::string_view locator_2);
-
-/// Sets `Distance_Texte`, whole kilometres. `locator_2` is cut to its trimmed first six characters; shorter than six,
-/// nothing else happens.
-void Calcule_Distance(Programme& programme, std::string_view locator_1, std::string& locator_2);
-
-/// Sets `Azimut`, whole degrees (0 to 360) from `locator_1` to `locator_2`.
-void Calcule_Azimut(Programme& programme, std::string_view locator_1, std::string_view locator_2);
 
 }  // namespace vorelio::Sous_Programmes

@@ -1,5 +1,6 @@
 #include "geo/locator.h"
 
+#include "entry/distance_azimuth.h"
 #include "support/error_of.h"
 #include "support/station_fixture.h"
 
