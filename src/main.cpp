@@ -6,11 +6,11 @@
 #include <cstdio>
 #include <cstring>
 
-#include "core/programme.h"
 #include "entry/ddfm.h"
-#include "platform/qt/application.h"
-#include "platform/qt/display.h"
-#include "platform/qt/single_program.h"
+#include "forms/programme.h"
+#include "qt/application.h"
+#include "qt/display.h"
+#include "qt/single_program.h"
 
 using namespace vorelio;
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "core/programme.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 
 /// What stands around the cluster and belongs to the computer, not to a station: the site's address, and the devices
 /// that the serial ports are.

@@ -6,9 +6,9 @@
 #include "cluster/cluster_settings_windows.h"
 #include "cluster/memory_window.h"
 #include "cluster/while_set.h"
-#include "core/clock_text.h"
 #include "core/errors.h"
 #include "core/text.h"
+#include "forms/clock_text.h"
 #include "tallies/prefix_tally.h"
 
 namespace vorelio {

@@ -7,8 +7,8 @@
 
 #include "cluster/cat_frames.h"
 #include "cluster/cluster_page.h"
-#include "core/programme.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 
 namespace vorelio {
 

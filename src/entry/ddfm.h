@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "core/log_line.h"
-#include "core/main_window.h"
-#include "core/programme.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/main_window.h"
+#include "forms/programme.h"
 
 namespace vorelio {
 

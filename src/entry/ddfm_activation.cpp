@@ -1,9 +1,9 @@
 #include <array>
 #include <string_view>
 
-#include "core/clock_text.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "forms/clock_text.h"
 
 namespace vorelio {
 

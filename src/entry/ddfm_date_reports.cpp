@@ -1,6 +1,6 @@
-#include "core/clock_text.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "forms/clock_text.h"
 
 namespace vorelio {
 

@@ -1,10 +1,10 @@
 #include "core/bands.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "maps/tally_painting.h"
+#include "search/department_window.h"
 #include "tallies/department_tally.h"
 #include "tallies/locator_tally.h"
-#include "views/department_window.h"
-#include "views/tally_painting.h"
 
 namespace vorelio {
 

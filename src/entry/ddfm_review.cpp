@@ -1,10 +1,10 @@
-#include "core/log_file.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "maps/tally_painting.h"
 #include "qsl/qsl_window.h"
+#include "search/search_window.h"
+#include "stations/log_file.h"
 #include "tallies/department_tally.h"
-#include "views/search_window.h"
-#include "views/tally_painting.h"
 
 namespace vorelio {
 

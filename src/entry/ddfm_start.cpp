@@ -1,12 +1,12 @@
 #include <algorithm>
 
 #include "core/bands.h"
-#include "core/clock_text.h"
-#include "core/log_file.h"
-#include "core/station_form.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
-#include "maintenance/activities.h"
+#include "forms/clock_text.h"
+#include "stations/activities.h"
+#include "stations/log_file.h"
+#include "stations/station_form.h"
 #include "tallies/department_tally.h"
 
 namespace vorelio {

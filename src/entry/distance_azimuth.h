@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// Where a contact is, seen from the station: what the entry chain leaves for the line.
 namespace vorelio::Sous_Programmes {

@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "core/bands.h"
-#include "core/station_context.h"
 #include "core/text.h"
 #include "exchange/adif3_record.h"
 #include "exchange/adif_enumerations.h"
 #include "exchange/foreign_line.h"
 #include "exchange/own_fields.h"
+#include "forms/station_context.h"
 
 namespace vorelio {
 

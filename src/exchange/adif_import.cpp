@@ -1,9 +1,9 @@
 #include "exchange/adif_import.h"
 
+#include "core/foreign_text.h"
 #include "exchange/adif_record.h"
 #include "exchange/log_splice.h"
-#include "exchange/text_import.h"
-#include "tallies/rebuild.h"
+#include "maintenance/rebuild.h"
 
 namespace vorelio::Sous_Programmes {
 

@@ -1,8 +1,8 @@
 #include "exchange/award_export_window.h"
 
 #include "core/log_line.h"
-#include "core/main_window.h"
 #include "core/text.h"
+#include "forms/main_window.h"
 
 namespace vorelio {
 

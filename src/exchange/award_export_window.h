@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
 #include "exchange/award_export.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 
 namespace vorelio {
 

@@ -1,8 +1,8 @@
 #include "exchange/edi_import.h"
 
+#include "core/foreign_text.h"
 #include "exchange/edi_record.h"
 #include "exchange/log_splice.h"
-#include "exchange/text_import.h"
 
 namespace vorelio::Sous_Programmes {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 namespace vorelio::Sous_Programmes {
 

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "core/errors.h"
-#include "core/log_file.h"
-#include "core/main_window.h"
 #include "core/text.h"
 #include "exchange/adif_export.h"
+#include "forms/main_window.h"
+#include "stations/log_file.h"
 
 namespace vorelio {
 

@@ -5,18 +5,18 @@
 #include <utility>
 #include <vector>
 
-#include "core/clock_text.h"
 #include "core/errors.h"
-#include "core/log_file.h"
-#include "core/log_guard.h"
-#include "core/main_window.h"
 #include "core/text.h"
 #include "exchange/adif_export.h"
 #include "exchange/award_export_window.h"
 #include "exchange/journal_files.h"
+#include "forms/clock_text.h"
+#include "forms/main_window.h"
+#include "maintenance/rebuild.h"
 #include "qsl/multi_qsl_window.h"
 #include "qsl/qsl_window.h"
-#include "tallies/rebuild.h"
+#include "stations/log_file.h"
+#include "stations/log_guard.h"
 
 namespace vorelio {
 

@@ -5,10 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "core/programme.h"
 #include "core/text.h"
 #include "exchange/import_plan.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 
 namespace vorelio {
 

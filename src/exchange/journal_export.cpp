@@ -1,11 +1,11 @@
 #include "exchange/journal_export.h"
 
-#include "core/log_file.h"
-#include "core/main_window.h"
 #include "core/text.h"
 #include "exchange/adif3_writer.h"
 #include "exchange/adif_export.h"
 #include "exchange/journal_files.h"
+#include "forms/main_window.h"
+#include "stations/log_file.h"
 
 namespace vorelio::Sous_Programmes {
 

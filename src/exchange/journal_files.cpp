@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "core/main_window.h"
 #include "core/text.h"
-#include "maintenance/activities.h"
+#include "forms/main_window.h"
+#include "stations/activities.h"
 
 namespace vorelio {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "core/errors.h"
-#include "core/programme.h"
 #include "exchange/journal.h"
+#include "forms/programme.h"
 
 /// What import and export of other programs' logs have in common: the station's part in it, file names, the words of
 /// failures.

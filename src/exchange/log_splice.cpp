@@ -5,11 +5,11 @@
 
 #include "core/calendar.h"
 #include "core/errors.h"
-#include "core/log_file.h"
-#include "core/log_guard.h"
 #include "core/log_line.h"
-#include "core/main_window.h"
 #include "core/text.h"
+#include "forms/main_window.h"
+#include "stations/log_file.h"
+#include "stations/log_guard.h"
 
 namespace vorelio {
 

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/programme.h"
 #include "exchange/century.h"
 #include "exchange/import_line.h"
+#include "forms/programme.h"
 
 /// What the imports have in common: the marker record, the file dialog, the block of new lines that goes into the log
 /// at one place, and the end.

@@ -3,7 +3,7 @@
 #include "core/log_line.h"
 #include "core/text.h"
 #include "exchange/log_splice.h"
-#include "tallies/rebuild.h"
+#include "maintenance/rebuild.h"
 
 namespace vorelio::Sous_Programmes {
 

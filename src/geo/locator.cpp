@@ -9,8 +9,6 @@ namespace vorelio::Sous_Programmes {
 
 namespace {
 
-constexpr std::size_t kLongueur_Locator = 6;
-
 /// What ten digits of pi let pass: a cosine a little beyond its bounds.
 constexpr double kPresque_Un = 0.999999999;
 

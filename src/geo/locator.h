@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,8 @@ inline constexpr double Rayon_Terre = Circonference_Terre / Pi_Programme / 2;
 inline constexpr double Deg_Vers_Rad = Pi_Programme / 180;
 inline constexpr double Rad_Vers_Deg = 180 / Pi_Programme;
 inline constexpr double Demi_Pi = Pi_Programme / 2;
+
+inline constexpr std::size_t kLongueur_Locator = 6;
 
 /// Sets `erreur` to 1 if one of the six characters is wrong (two letters A to Z, two digits, two letters A to Z),
 /// else leaves it. A text shorter than six is run-time error 5.

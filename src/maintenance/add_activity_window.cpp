@@ -1,8 +1,8 @@
 #include "maintenance/add_activity_window.h"
 
-#include "core/main_window.h"
 #include "core/text.h"
-#include "maintenance/activities.h"
+#include "forms/main_window.h"
+#include "stations/activities.h"
 
 namespace vorelio {
 

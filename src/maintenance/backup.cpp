@@ -3,12 +3,12 @@
 #include <array>
 #include <string>
 
-#include "core/clock_text.h"
 #include "core/errors.h"
-#include "core/log_guard.h"
-#include "core/main_window.h"
-#include "core/station_files.h"
 #include "core/text.h"
+#include "forms/clock_text.h"
+#include "forms/main_window.h"
+#include "stations/log_guard.h"
+#include "stations/station_files.h"
 
 namespace vorelio::Sous_Programmes {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// The automatic backup: log, tallies and activity list, copied to the base path of the settings, whose text is joined
 /// with the files' endings as it stands.

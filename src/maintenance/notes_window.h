@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "core/programme.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 
 namespace vorelio {
 

@@ -4,7 +4,7 @@
 
 #include "core/errors.h"
 #include "core/text.h"
-#include "maintenance/activities.h"
+#include "stations/activities.h"
 
 namespace vorelio {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// What the printed listings have in common. They have no pages of their own: text runs on, and the printer breaks it.
 namespace vorelio {

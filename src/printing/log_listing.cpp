@@ -2,9 +2,9 @@
 
 #include <functional>
 
-#include "core/clock_text.h"
 #include "core/log_line.h"
 #include "core/text.h"
+#include "forms/clock_text.h"
 #include "printing/listing.h"
 #include "qsl/state_words.h"
 

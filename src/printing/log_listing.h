@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// The log on paper and as a text. All read `<station>.log` and raise error 53 where it is missing; `station` has "_"
 /// for "/", in the titles too.

@@ -4,8 +4,8 @@
 
 #include "core/bands.h"
 #include "core/text.h"
-#include "maintenance/activities.h"
 #include "printing/log_listing.h"
+#include "stations/activities.h"
 
 namespace vorelio {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "core/main_window.h"
 #include "core/text.h"
+#include "forms/main_window.h"
 #include "printing/log_listing.h"
 
 namespace vorelio {

@@ -1,8 +1,8 @@
 #include "printing/select_qso_window.h"
 
-#include "core/loading_window.h"
-#include "core/log_file.h"
 #include "printing/labels_window.h"
+#include "stations/loading_window.h"
+#include "stations/log_file.h"
 
 namespace vorelio {
 

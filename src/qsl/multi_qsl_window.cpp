@@ -1,9 +1,9 @@
 #include "qsl/multi_qsl_window.h"
 
-#include "core/grouped_disk.h"
 #include "core/log_line.h"
-#include "core/main_window.h"
 #include "core/text.h"
+#include "forms/grouped_disk.h"
+#include "forms/main_window.h"
 #include "qsl/qsl_window.h"
 
 namespace vorelio {

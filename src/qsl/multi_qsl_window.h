@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "core/programme.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 #include "qsl/qsl_state.h"
 
 namespace vorelio {

@@ -3,15 +3,15 @@
 #include <optional>
 
 #include "core/bands.h"
-#include "core/clock_text.h"
-#include "core/log_guard.h"
 #include "core/log_line.h"
-#include "core/main_window.h"
 #include "core/text.h"
+#include "forms/clock_text.h"
+#include "forms/main_window.h"
+#include "maps/tally_painting.h"
+#include "stations/log_guard.h"
 #include "tallies/department_tally.h"
 #include "tallies/locator_tally.h"
 #include "tallies/tally_file.h"
-#include "views/tally_painting.h"
 
 namespace vorelio::Sous_Programmes {
 

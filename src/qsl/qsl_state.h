@@ -6,7 +6,7 @@
 #include <unordered_map>
 
 #include "core/log_line.h"
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// The QSL state of a contact and what it does to the tallies. Both procedures act on `Ligne_Selection` and
 /// `Etat_QSL_Courant`: they change the log line, raise the department's code and set the square's. There is no way

@@ -1,11 +1,11 @@
 #include "qsl/qsl_window.h"
 
-#include "core/log_file.h"
 #include "core/log_line.h"
-#include "core/main_window.h"
 #include "core/text.h"
+#include "forms/main_window.h"
 #include "qsl/multi_qsl_window.h"
 #include "qsl/qsl_state.h"
+#include "stations/log_file.h"
 
 namespace vorelio {
 

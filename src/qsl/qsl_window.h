@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/programme.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 
 namespace vorelio {
 

@@ -1,8 +1,8 @@
 #include "tallies/add_prefix_window.h"
 
 #include "core/bands.h"
-#include "core/station_files.h"
 #include "core/text.h"
+#include "stations/station_files.h"
 #include "tallies/prefix_tally.h"
 
 namespace vorelio {

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
-#include "platform/rows.h"
+#include "core/rows.h"
+#include "forms/programme.h"
 
 /// The callsign directory `Nomenclature.txt`, common to all stations: by 1-based column 1-10 callsign, 12-13 department
 /// in tally form, 15-20 locator.

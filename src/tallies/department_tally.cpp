@@ -1,8 +1,8 @@
 #include "tallies/department_tally.h"
 
 #include "core/bands.h"
-#include "core/station_files.h"
 #include "core/text.h"
+#include "stations/station_files.h"
 #include "tallies/tally_file.h"
 
 namespace vorelio::Sous_Programmes {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// The departments worked, `<station>_Departement.txt`: a line per department, by 1-based column: 1-2 key ("01" to
 /// "95", "96" and "97" for Corsica), 4-20 one code per band, from 22 on the name. Codes: "0" not worked, "1" worked,

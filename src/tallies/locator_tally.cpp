@@ -1,9 +1,9 @@
 #include "tallies/locator_tally.h"
 
 #include "core/bands.h"
-#include "core/error_window.h"
-#include "core/station_files.h"
 #include "core/text.h"
+#include "stations/error_window.h"
+#include "stations/station_files.h"
 #include "tallies/tally_file.h"
 
 namespace vorelio::Sous_Programmes {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// The locator squares worked from 50 MHz up, `<station>_Locator.txt`: a line per square, by 1-based column: 1-2 field,
 /// 3-4 digits, 6-13 one code per band, the rest carried along. Codes as in the department tally.

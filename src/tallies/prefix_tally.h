@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/programme.h"
+#include "forms/programme.h"
 
 /// The prefixes worked, `<station>_Prefixe.txt`: a line per prefix, by 1-based column: 1-7 prefix (of these 1-5 are
 /// compared), 8-24 one code per band ("0" not worked, else worked), from 27 on the country. The first line that a

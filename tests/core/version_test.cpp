@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/station_context.h"
+#include "forms/station_context.h"
 
 namespace vorelio::tests {
 

@@ -1,5 +1,5 @@
 #include "core/errors.h"
-#include "core/log_file.h"
+#include "core/foreign_text.h"
 #include "core/log_line.h"
 #include "entry/ddfm.h"
 #include "exchange/adif_import.h"
@@ -7,7 +7,7 @@
 #include "exchange/edi_import.h"
 #include "exchange/log_splice.h"
 #include "exchange/native_import.h"
-#include "exchange/text_import.h"
+#include "stations/log_file.h"
 #include "support/contact.h"
 #include "support/station_fixture.h"
 

@@ -12,9 +12,9 @@
 #include <vector>
 
 #include "core/log_line.h"
-#include "core/programme.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
+#include "forms/programme.h"
 #include "fuzz/memory_disk.h"
 #include "platform/file_settings.h"
 #include "qsl/multi_qsl_window.h"

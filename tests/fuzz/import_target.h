@@ -10,13 +10,13 @@
 #include <vector>
 
 #include "core/log_line.h"
-#include "core/programme.h"
 #include "core/text.h"
 #include "entry/ddfm.h"
 #include "exchange/adif_import.h"
 #include "exchange/edi_import.h"
 #include "exchange/log_splice.h"
 #include "exchange/native_import.h"
+#include "forms/programme.h"
 #include "fuzz/memory_disk.h"
 #include "support/contact.h"
 #include "support/outside.h"

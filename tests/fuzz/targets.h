@@ -34,7 +34,8 @@ inline const std::map<std::string, std::string, std::less<>>& FolderFiles() {
   return files;
 }
 
-/// An importer ("adif", "edi", "native"), a reader of whole logs ("adif3", "edi_journal"), the reader of the cluster page
+/// An importer ("adif", "edi", "native"), a reader of whole logs ("adif3", "edi_journal"), the reader of the cluster
+/// page
 /// ("cluster"), or a file of the folder, one of `FolderFiles`; nothing to run for another name.
 inline FuzzTarget TargetOf(std::string_view name) {
   const auto importing = [](const ImportTarget::Importer& importer) {

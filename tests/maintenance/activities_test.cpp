@@ -1,4 +1,4 @@
-#include "maintenance/activities.h"
+#include "stations/activities.h"
 #include "entry/ddfm.h"
 #include "maintenance/add_activity_window.h"
 #include "maintenance/restore_activities_window.h"

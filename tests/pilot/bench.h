@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/errors.h"
-#include "core/programme.h"
 #include "core/text.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
+#include "forms/programme.h"
 
 /// Small windows that the pilot is tried on.
 namespace vorelio::pilot {

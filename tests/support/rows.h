@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/rows.h"
+#include "core/rows.h"
 #include "support/logging_disk.h"
 
 namespace vorelio::tests {

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/programme.h"
-#include "core/station_files.h"
+#include "forms/programme.h"
 #include "platform/posix_disk.h"
+#include "stations/station_files.h"
 #include "support/logging_disk.h"
 #include "support/outside.h"
 

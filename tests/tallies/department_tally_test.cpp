@@ -1,8 +1,8 @@
 #include "tallies/department_tally.h"
 
 #include "entry/ddfm.h"
+#include "maps/tally_painting.h"
 #include "support/station_fixture.h"
-#include "views/tally_painting.h"
 
 namespace vorelio::tests {
 namespace {

@@ -1,9 +1,9 @@
 #include "tallies/locator_tally.h"
 
-#include "core/error_window.h"
 #include "entry/ddfm.h"
+#include "maps/tally_painting.h"
+#include "stations/error_window.h"
 #include "support/station_fixture.h"
-#include "views/tally_painting.h"
 
 namespace vorelio::tests {
 namespace {

@@ -1,9 +1,9 @@
 #include "tallies/prefix_tally.h"
 
 #include "core/text.h"
+#include "statistics/prefix_statistics_window.h"
 #include "support/station_fixture.h"
 #include "tallies/add_prefix_window.h"
-#include "tallies/prefix_statistics_window.h"
 
 namespace vorelio::tests {
 namespace {

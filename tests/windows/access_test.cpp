@@ -13,7 +13,7 @@
 #include <map>
 #include <set>
 
-#include "platform/qt/qt_text.h"
+#include "qt/qt_text.h"
 #include "tallies/tally_file.h"
 #include "windows/every_form.h"
 

@@ -5,7 +5,7 @@
 #include <QRadioButton>
 
 #include "core/text.h"
-#include "platform/qt/qt_text.h"
+#include "qt/qt_text.h"
 #include "windows/every_form.h"
 
 namespace vorelio::tests {

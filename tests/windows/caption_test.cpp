@@ -6,7 +6,7 @@
 #include <QRadioButton>
 
 #include "core/text.h"
-#include "platform/qt/caption_views.h"
+#include "qt/caption_views.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {

@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 
 #include "core/text.h"
-#include "platform/qt/appearance.h"
+#include "qt/appearance.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {

@@ -10,9 +10,9 @@
 #include "cluster/cluster_window.h"
 #include "cluster/made_up_page.h"
 #include "entry/ddfm.h"
-#include "platform/qt/qt_pages.h"
-#include "platform/qt/qt_serial.h"
-#include "platform/qt/qt_sounds.h"
+#include "qt/qt_pages.h"
+#include "qt/qt_serial.h"
+#include "qt/qt_sounds.h"
 #include "support/error_of.h"
 #include "windows/windows_bench.h"
 

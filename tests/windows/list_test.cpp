@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
-#include "platform/qt/rows_view.h"
+#include "qt/rows_view.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {

@@ -2,11 +2,11 @@
 #include <QImage>
 
 #include "entry/ddfm.h"
-#include "platform/qt/picture_board.h"
-#include "platform/qt/qt_text.h"
-#include "views/activity_map.h"
-#include "views/department_map.h"
-#include "views/locator_maps.h"
+#include "maps/activity_map.h"
+#include "maps/department_map.h"
+#include "maps/locator_maps.h"
+#include "qt/picture_board.h"
+#include "qt/qt_text.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {

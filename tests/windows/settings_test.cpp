@@ -3,9 +3,9 @@
 #include <QSettings>
 
 #include "core/text.h"
-#include "platform/qt/program_folder.h"
-#include "platform/qt/qt_settings.h"
-#include "platform/qt/qt_text.h"
+#include "qt/program_folder.h"
+#include "qt/qt_settings.h"
+#include "qt/qt_text.h"
 #include "support/error_of.h"
 #include "windows/windows_bench.h"
 

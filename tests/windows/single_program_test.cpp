@@ -1,4 +1,4 @@
-#include "platform/qt/single_program.h"
+#include "qt/single_program.h"
 
 #include <QFile>
 #include <QTest>

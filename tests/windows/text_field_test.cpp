@@ -4,9 +4,9 @@
 #include <QLineEdit>
 
 #include "core/text.h"
-#include "platform/qt/appearance.h"
-#include "platform/qt/multi_line_view.h"
-#include "platform/qt/qt_text.h"
+#include "qt/appearance.h"
+#include "qt/multi_line_view.h"
+#include "qt/qt_text.h"
 #include "windows/windows_bench.h"
 
 namespace vorelio::tests {

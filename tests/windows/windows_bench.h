@@ -12,13 +12,13 @@
 #include <string>
 #include <vector>
 
-#include "core/programme.h"
-#include "core/station_files.h"
+#include "forms/programme.h"
 #include "platform/posix_disk.h"
-#include "platform/qt/binder.h"
-#include "platform/qt/qt_text.h"
-#include "platform/qt/qt_windows.h"
-#include "platform/qt/window_extras.h"
+#include "qt/binder.h"
+#include "qt/qt_text.h"
+#include "qt/qt_windows.h"
+#include "qt/window_extras.h"
+#include "stations/station_files.h"
 #include "support/outside.h"
 
 // Outside Qt's own test classes these end a test without failing it.

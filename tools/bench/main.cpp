@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "change_measures.h"
-#include "core/log_file.h"
 #include "core/log_line.h"
 #include "floors.h"
 #include "import_measures.h"
@@ -16,6 +15,7 @@
 #include "map_measures.h"
 #include "start_time.h"
 #include "station_run.h"
+#include "stations/log_file.h"
 #include "table.h"
 #include "tallies/department_tally.h"
 #include "tallies/prefix_tally.h"

@@ -4,11 +4,11 @@
 #include <string>
 
 #include "log_maker.h"
+#include "maintenance/rebuild.h"
+#include "maps/activity_map.h"
+#include "maps/department_map.h"
+#include "maps/locator_maps.h"
 #include "station_run.h"
-#include "tallies/rebuild.h"
-#include "views/activity_map.h"
-#include "views/department_map.h"
-#include "views/locator_maps.h"
 
 namespace vorelio::bench {
 

@@ -15,13 +15,13 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "core/station_files.h"
 #include "doubles/ready_station.h"
 #include "doubles/scratch_folder.h"
 #include "entry/ddfm.h"
 #include "log_maker.h"
-#include "platform/qt/application.h"
-#include "platform/qt/qt_text.h"
+#include "qt/application.h"
+#include "qt/qt_text.h"
+#include "stations/station_files.h"
 
 namespace {
 

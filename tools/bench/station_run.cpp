@@ -3,9 +3,9 @@
 #include <map>
 #include <stdexcept>
 
-#include "core/station_files.h"
 #include "doubles/ready_station.h"
 #include "log_maker.h"
+#include "stations/station_files.h"
 
 namespace vorelio::bench {
 

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "core/programme.h"
 #include "doubles/devices.h"
 #include "doubles/scratch_folder.h"
 #include "doubles/services.h"
 #include "entry/ddfm.h"
+#include "forms/programme.h"
 #include "platform/posix_disk.h"
 
 namespace vorelio::bench {

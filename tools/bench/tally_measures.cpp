@@ -5,9 +5,9 @@
 #include "bench/line_by_line.h"
 #include "core/text.h"
 #include "log_maker.h"
+#include "maintenance/rebuild.h"
 #include "qsl/multi_qsl_window.h"
 #include "station_run.h"
-#include "tallies/rebuild.h"
 
 namespace vorelio::bench {
 

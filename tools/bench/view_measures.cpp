@@ -5,11 +5,11 @@
 #include <string>
 
 #include "log_maker.h"
+#include "search/search_window.h"
 #include "station_run.h"
-#include "views/activation_statistics_window.h"
-#include "views/distance_statistics_window.h"
-#include "views/qso_statistics_window.h"
-#include "views/search_window.h"
+#include "statistics/activation_statistics_window.h"
+#include "statistics/distance_statistics_window.h"
+#include "statistics/qso_statistics_window.h"
 
 namespace vorelio::bench {
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "core/errors.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
 
 namespace vorelio::doubles {
 

@@ -50,8 +50,8 @@ QImage Draw(double width, double height, const std::function<void(QPainter&)>& d
 /// Writes "name.jpg" and, twice as large, "name@2x.jpg" into a folder; throws std::runtime_error.
 void Save(const QImage& large, const QString& folder, const QString& name);
 
-/// Whether the delivered "name.jpg" and "name@2x.jpg" show what has been drawn. Encoders and the edges of letters differ
-/// from system to system, so that pixels are compared with some tolerance.
+/// Whether the delivered "name.jpg" and "name@2x.jpg" show what has been drawn. Encoders and the edges of letters
+/// differ from system to system, so that pixels are compared with some tolerance.
 bool Shows(const QString& folder, const QString& name, const QImage& large);
 
 /// The maps themselves.

@@ -1,5 +1,5 @@
-#include "core/programme.h"
 #include "doubles/services.h"
+#include "forms/programme.h"
 #include "pilot/way.h"
 
 namespace vorelio::pilot {

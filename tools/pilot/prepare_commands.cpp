@@ -5,10 +5,10 @@
 
 #include "core/errors.h"
 #include "core/log_line.h"
-#include "core/station_files.h"
 #include "core/text.h"
 #include "doubles/ready_station.h"
 #include "pilot/commands.h"
+#include "stations/station_files.h"
 
 /// What makes the place ready: the station, files, settings, the clock.
 namespace vorelio::pilot {

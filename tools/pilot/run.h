@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
-#include "core/programme.h"
 #include "doubles/devices.h"
 #include "doubles/scratch_folder.h"
 #include "doubles/services.h"
+#include "forms/programme.h"
 #include "pilot/scenario.h"
 #include "pilot/way.h"
 #include "pilot/words.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/controls.h"
+#include "forms/controls.h"
 #include "platform/platform.h"
 
 /// A way of driving the program, and what it needs of the scenario that is running.

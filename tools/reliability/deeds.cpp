@@ -4,8 +4,8 @@
 #include "core/text.h"
 #include "exchange/adif_import.h"
 #include "maintenance/backup.h"
+#include "maintenance/rebuild.h"
 #include "qsl/qsl_window.h"
-#include "tallies/rebuild.h"
 
 namespace vorelio::reliability {
 

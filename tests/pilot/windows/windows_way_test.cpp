@@ -11,7 +11,7 @@
 
 #include "pilot/bench.h"
 #include "pilot/pilot.h"
-#include "platform/qt/view.h"
+#include "qt/view.h"
 
 namespace vorelio::pilot {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "pilot/windows/real_events.h"
 #include "pilot/words.h"
-#include "platform/qt/qt_text.h"
+#include "qt/qt_text.h"
 
 namespace vorelio::pilot {
 

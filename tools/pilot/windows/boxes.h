@@ -1,8 +1,8 @@
 #pragma once
 
 #include "pilot/way.h"
-#include "platform/qt/qt_file_dialogs.h"
-#include "platform/qt/qt_messages.h"
+#include "qt/qt_file_dialogs.h"
+#include "qt/qt_messages.h"
 
 /// The boxes that wait for the user, shown for real and answered by the scenario.
 namespace vorelio::pilot {

@@ -10,10 +10,10 @@
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
+#include "forms/controls.h"
 #include "pilot/words.h"
-#include "platform/controls.h"
-#include "platform/qt/qt_text.h"
-#include "platform/qt/rows_view.h"
+#include "qt/qt_text.h"
+#include "qt/rows_view.h"
 
 namespace vorelio::pilot {
 

@@ -10,15 +10,15 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "core/programme.h"
 #include "core/text.h"
+#include "forms/programme.h"
 #include "pilot/windows/boxes.h"
 #include "pilot/windows/real_events.h"
 #include "pilot/windows/seen.h"
 #include "pilot/words.h"
-#include "platform/qt/application.h"
-#include "platform/qt/qt_text.h"
-#include "platform/qt/rows_view.h"
+#include "qt/application.h"
+#include "qt/qt_text.h"
+#include "qt/rows_view.h"
 
 namespace vorelio::pilot {
 
