@@ -78,9 +78,10 @@ TEST_F(BackupTest, TheStatusLineTellsWhatWouldComeBack) {
   EXPECT_EQ(told(), "Pas de sauvegarde : " + folder.File("sauve/F6.bak"));
 
   Write("sauve/F6.bak", "one\r\ntwo\r\nthree");
-  struct tm day {
-    .tm_mday = 9, .tm_mon = 4, .tm_year = 103
-  };
+  struct tm day {};
+  day.tm_mday = 9;
+  day.tm_mon = 4;
+  day.tm_year = 103;
   const auto noon = std::chrono::system_clock::from_time_t(std::mktime(&day)) + std::chrono::hours(12);
   std::filesystem::last_write_time(folder.File("sauve/F6.bak"), std::chrono::file_clock::from_sys(noon));
   EXPECT_EQ(told(), "Sauvegarde du 09/05/2003 : 3 QSO ; log avant restauration : 1 QSO");
