@@ -6,7 +6,7 @@
 #include "forms/programme.h"
 
 /// The log of a station: how its file comes into `Liste_QSO`, and the four ways in which it changes. The file is
-/// rewritten in place from the list; what is reported as done is on the disk.
+/// replaced as a whole by what the list holds; what is reported as done is on the disk.
 namespace vorelio::Sous_Programmes {
 
 /// The text of the current station's log. A missing log is run-time error 53.
