@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/log_line.h"
+#include "core/text.h"
 #include "exchange/adif3_writer.h"
 
 namespace vorelio::tests {
@@ -37,7 +38,7 @@ inline int RunJournal(std::string_view file) {
   };
   const Contexte_Journal station{"F9QZX", "JN33BB", {"QSO", "DFCF"}, {}};
   const Journal_Lu journal = Lit_Journal(file, station);
-  const bool own = file.find("APP_") != std::string_view::npos || file.find("app_") != std::string_view::npos;
+  const bool own = Majuscules(file).find("APP_VORELIO_") != std::string::npos;
   std::string log;
   for (const QSO_Lu& qso : journal.qso) {
     require(own || (qso.ligne.size() == kLargeur_Ligne && qso.ligne.ends_with('*')), "a line that is no log line");
