@@ -90,7 +90,7 @@ std::string Complete(std::string_view texte, int largeur, int ecart) {
 }
 
 void Ajoute_Complete(std::string& ligne, std::string_view texte, int largeur, int ecart) {
-  const auto total = static_cast<std::size_t>(largeur + ecart);
+  const auto total = static_cast<std::size_t>(largeur) + static_cast<std::size_t>(ecart);
   if (texte.size() > total) throw Erreur_Execution(Erreur::Argument_Invalide);
   ligne.append(texte).append(total - texte.size(), ' ');
 }

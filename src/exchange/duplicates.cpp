@@ -31,7 +31,7 @@ bool Memes_Champs(std::string_view a, std::string_view b) {
 int Minute(std::string_view ligne) {
   const std::string_view debut = Lit_Log(ligne, champs::Debut_A);
   if (debut.size() != 5 || debut[2] != ':') return -1;
-  int chiffres[4];
+  int chiffres[4] = {};
   for (int i = 0; const std::size_t place : {0U, 1U, 3U, 4U}) {
     if (debut[place] < '0' || debut[place] > '9') return -1;
     chiffres[i++] = debut[place] - '0';

@@ -154,7 +154,7 @@ std::string Import_Journal::Remplace(std::string_view log) {
   const std::string chemin = programme_.Chemin_Log(programme_.contexte.Station_Indicatif);
   const std::string nouveau =
       Log_Fusionne(log, plan_->Lignes(Doubles.Checked()), Confirmations.Checked() ? plan_->Confirmees() : kAucune);
-  const std::string garde = Garde_Log(programme_, chemin);
+  std::string garde = Garde_Log(programme_, chemin);
   // It has been kept: once is enough.
   Note_Log(programme_, chemin);
   Remplace_Log(programme_, chemin, nouveau);

@@ -1,7 +1,9 @@
 #include "qt/caption_views.h"
 
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QPainter>
+#include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
 
@@ -99,6 +101,15 @@ void ClickView::TakeClick() {
   if (Bound()) Show(Property::Checked);
 }
 
+/// Space ticks; Enter is for the button that acts, from a box or an option as from the last field. The options of the
+/// main window are apart from its contact, which they must not save.
+void ClickView::TakeEnter() {
+  if (!button_.isCheckable() || qobject_cast<QMainWindow*>(button_.window())) return TakeClick();
+  for (auto* other : button_.window()->findChildren<QPushButton*>())
+    if (other->property("principal").toBool()) return other->click();
+  TakeClick();
+}
+
 /// A button that has two captions in turn has the other one, with its own key, in its property "autre_texte".
 void ClickView::ShowCaption() {
   const QString other = button_.property("autre_texte").toString();
@@ -149,7 +160,7 @@ bool ClickView::eventFilter(QObject* watched, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (GoToNeighbour(key)) return true;
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      TakeClick();
+      TakeEnter();
       return true;
     }
   }

@@ -71,6 +71,7 @@ class ClickView : public WidgetView {
 
  private:
   void TakeClick();
+  void TakeEnter();
   void ShowCaption();
   bool GoToNeighbour(int key);
   void ShowStop();
