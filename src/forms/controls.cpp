@@ -204,7 +204,7 @@ void ListBox::AddItem(std::string_view text) {
 
 void ListBox::AddItems(std::vector<std::string> texts) {
   if (kind_ == Kind::Checked) checked_.resize(checked_.size() + texts.size());
-  if (kind_ != Kind::Sorted) return Append(std::move(texts));
+  if (kind_ != Kind::Sorted) return Append(texts);
   std::stable_sort(texts.begin(), texts.end());
   Merge(texts);
 }

@@ -36,6 +36,12 @@ constexpr milliseconds kPatience{150};
 constexpr milliseconds kRefill{250};
 constexpr int kNotice_ms = 8000;
 
+/// A text that stands there already is selected, as Tab would: what is typed takes its place.
+void GiveFocus(QWidget& widget) {
+  widget.setFocus(Qt::OtherFocusReason);
+  if (auto* field = qobject_cast<QLineEdit*>(&widget)) field->selectAll();
+}
+
 }  // namespace
 
 QtWindows::QtWindows() {
@@ -212,16 +218,12 @@ void QtWindows::FocusFirst(Window& window) {
   if (window.widget->focusWidget()) return;
   // The window's property "premier" names the widget to begin with, where that isn't the first of the tab chain.
   const QString name = window.widget->property("premier").toString();
-  if (auto* first = name.isEmpty() ? nullptr : window.widget->findChild<QWidget*>(name); first && first->isEnabled()) {
-    first->setFocus(Qt::OtherFocusReason);
-    return;
-  }
+  if (auto* first = name.isEmpty() ? nullptr : window.widget->findChild<QWidget*>(name); first && first->isEnabled())
+    return GiveFocus(*first);
   for (QWidget* next = window.widget->nextInFocusChain(); next && next != window.widget;
        next = next->nextInFocusChain()) {
-    if (next->isEnabled() && next->isVisibleTo(window.widget) && (next->focusPolicy() & Qt::TabFocus)) {
-      next->setFocus(Qt::OtherFocusReason);
-      return;
-    }
+    if (next->isEnabled() && next->isVisibleTo(window.widget) && (next->focusPolicy() & Qt::TabFocus))
+      return GiveFocus(*next);
   }
 }
 

@@ -161,7 +161,7 @@ TEST_F(LogFile, ALogThatAnotherHandHasChangedIsKeptBeside) {
     Event([&] { Ajoute_Ligne_Log(*programme, b); });
     Write("F9QZX.log", others);
     messages.Answer(true);
-    Event([&] { act(ddfm); });
+    Event([&, &act = act] { act(ddfm); });
     EXPECT_EQ(messages.fatal_number, 0);
     EXPECT_EQ(Read("F9QZX.log.garde-20030512-143456"), others);
     EXPECT_EQ(ddfm.Etat.Caption(),
