@@ -1,7 +1,6 @@
 #include "qt/caption_views.h"
 
 #include <QKeyEvent>
-#include <QMainWindow>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -101,13 +100,10 @@ void ClickView::TakeClick() {
   if (Bound()) Show(Property::Checked);
 }
 
-/// Space ticks; Enter is for the button that acts, from a box or an option as from the last field. The options of the
-/// main window are apart from its contact, which they must not save.
+/// Space ticks; Enter is for the button that acts, where the window has one.
 void ClickView::TakeEnter() {
-  if (!button_.isCheckable() || qobject_cast<QMainWindow*>(button_.window())) return TakeClick();
-  for (auto* other : button_.window()->findChildren<QPushButton*>())
-    if (other->property("principal").toBool()) return other->click();
-  TakeClick();
+  QPushButton* acting = button_.isCheckable() ? ActingButton(button_) : nullptr;
+  acting ? acting->click() : TakeClick();
 }
 
 /// A button that has two captions in turn has the other one, with its own key, in its property "autre_texte".

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScopedValueRollback>
 
 #include "qt/qt_text.h"
@@ -107,7 +108,9 @@ void ComboView::TakeKey(int key) {
   const qsizetype start = !edit ? 0 : selected ? edit->selectionStart() : edit->cursorPosition();
   const qsizetype length = selected ? edit->selectionLength() : 0;
   Deliver([&] { control_.UserKey(key); });
-  if (!Bound() || !edit || key < ' ') return;
+  if (!Bound()) return;
+  if (QPushButton* acting = key == kEntree ? ActingButton(shown_) : nullptr) return acting->click();
+  if (!edit || key < ' ') return;
   const QString now = ToQt(control_.Text());
   const bool inside = start + length < old.size() || (length > 0 && length < old.size());
   const bool joined = !now.isEmpty() && (now.size() == 1 || now == old + now.back());

@@ -2,8 +2,11 @@
 
 #include <QFocusEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QPalette>
+#include <QPushButton>
 #include <QScopedValueRollback>
+#include <algorithm>
 
 #include "forms/colours.h"
 #include "forms/programme.h"
@@ -101,6 +104,14 @@ bool WidgetView::eventFilter(QObject* watched, QEvent* event) {
       Deliver([this] { control_.UserFocus(); });
   }
   return QObject::eventFilter(watched, event);
+}
+
+QPushButton* ActingButton(const QWidget& choice) {
+  if (qobject_cast<QMainWindow*>(choice.window())) return nullptr;
+  const auto buttons = choice.window()->findChildren<QPushButton*>();
+  const auto acting = std::find_if(buttons.begin(), buttons.end(),
+                                   [](const auto* button) { return button->property("principal").toBool(); });
+  return acting == buttons.end() ? nullptr : *acting;
 }
 
 void WidgetView::ShowColour() {

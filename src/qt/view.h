@@ -7,6 +7,8 @@
 
 #include "forms/controls.h"
 
+class QPushButton;
+
 /// One view per control: it shows the control's state in a widget and tells the control what the user does.
 namespace vorelio {
 
@@ -104,6 +106,10 @@ class ViewOf : public WidgetView {
   C& control_;
   W& shown_;
 };
+
+/// The button that Enter presses from a choice, a box or an option of a window, as it does from the last of its fields.
+/// None in the main window, whose choices are apart from its contact.
+QPushButton* ActingButton(const QWidget& choice);
 
 /// Puts a colour of the model on a widget: the background with black text on it, or the desktop's own colours.
 void PaintField(QWidget& widget, Couleur colour);

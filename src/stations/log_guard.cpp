@@ -33,8 +33,8 @@ std::string Garde_Log(Programme& programme, const std::string& chemin) {
 std::string Protege_Log(Programme& programme, const std::string& chemin) {
   if (Log_Connu(programme, chemin)) return {};
   const std::string garde = Garde_Log(programme, chemin);
-  const std::string annonce = "Le journal a été changé hors de Vorelio : gardé tel quel dans "_t +
-                              garde.substr(garde.find_last_of(programme.plateforme.separator) + 1);
+  std::string annonce = "Le journal a été changé hors de Vorelio : gardé tel quel dans "_t +
+                        garde.substr(garde.find_last_of(programme.plateforme.separator) + 1);
   if (auto* principale = programme.Ouverte<Fenetre_Principale>()) principale->Dit(annonce);
   return annonce;
 }

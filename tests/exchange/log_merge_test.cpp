@@ -16,6 +16,7 @@ std::string LineOf(const std::string& words) {
 
 std::vector<std::string> LinesOf(const std::vector<std::string>& words) {
   std::vector<std::string> lines;
+  lines.reserve(words.size());
   for (const std::string& word : words) lines.push_back(word == "*" ? word : LineOf(word));
   return lines;
 }
@@ -56,6 +57,7 @@ TEST(LogMerge, EachContactHasItsPlaceByDateAndStartTime) {
     for (const std::string& line : LinesOf(c.log)) log += line + "\r\n";
     const auto added = LinesOf(c.added);
     std::vector<Ligne_A_Placer> placed;
+    placed.reserve(added.size());
     for (const std::string& line : added)
       placed.push_back({Moment_QSO(Champ_Log(line, champs::Date_A), Champ_Log(line, champs::Debut_A)), line});
     Trie_Par_Moment(placed);
