@@ -131,8 +131,10 @@ bool ListView::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
     const QString typed = TypedCharacters(key);
-    const bool ticks = control_.Genre() == ListBox::Kind::Checked && typed == QStringLiteral(" ");
-    if (!typed.isEmpty() && !ticks) {
+    const bool blank = typed == QStringLiteral(" "), enter = typed == QStringLiteral("\r");
+    const bool acts =
+        (blank && control_.Genre() == ListBox::Kind::Checked) || ((blank || enter) && shown_.TakenByClick());
+    if (!typed.isEmpty() && !acts) {
       Type(typed, gate_, shown_, [this](int character) { Tell([this, character] { control_.UserKey(character); }); });
       return true;
     }

@@ -202,6 +202,13 @@ void RowsView::Select(int row) {
   if (OnSelect && row >= 0 && row < model()->rowCount()) OnSelect(row);
 }
 
+/// Leaves the keys where they are, at the row that has moved up.
+void RowsView::Take(int row) {
+  Select(row);
+  const int left = model()->rowCount();
+  if (left > 0) setCurrentIndex(model()->index(std::clamp(row, 0, left - 1), 0));
+}
+
 void RowsView::mousePressEvent(QMouseEvent* event) {
   if (OnBefore) OnBefore();
   if (event->button() != Qt::LeftButton) return;
@@ -251,12 +258,19 @@ void RowsView::keyPressEvent(QKeyEvent* event) {
       bar->setValue(bar->value() + (event->key() == Qt::Key_Left ? -4 : 4) * bar->singleStep());
       return;
     }
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
     case Qt::Key_Space:
-      if (OnTick && row >= 0 && TextStart() > kMargin) OnTick(row);
+      if (TakenByClick())
+        Take(row);
+      else if (OnTick && row >= 0 && TextStart() > kMargin)
+        OnTick(row);
       return;
     default: event->ignore(); return;
   }
-  if (count > 0) Select(std::clamp(target, 0, count - 1));
+  if (count == 0) return;
+  target = std::clamp(target, 0, count - 1);
+  TakenByClick() ? setCurrentIndex(model()->index(target, 0)) : Select(target);
 }
 
 }  // namespace vorelio
