@@ -33,7 +33,8 @@ class RowsView : public QListView {
   std::function<void(int row)> OnTick;
   /// Before an action of the user is made out: the rows must be up to date.
   std::function<void()> OnBefore;
-  /// Where a click takes its row away (property "clic_prend"), the arrow keys look for one, and Space or Enter takes it.
+  /// Where a click takes its row away (property "clic_prend"), the arrow keys look for one, and Space or Enter takes
+  /// it.
   bool TakenByClick() const { return property("clic_prend").toBool(); }
   /// Rows as wide as this many characters.
   void SetWidest(int characters);

@@ -112,21 +112,8 @@ TEST(SettingsTest, ReadsWhatTheToolkitWritesAndTheReverse) {
   const ScratchFolder folder;
   const QString path = ToQt(folder.File("Vorelio.ini"));
   const std::string accents = "été €"_t;
-  const std::vector<std::string> texts = {"",
-                                          " a ",
-                                          "a;b",
-                                          "a,b",
-                                          "a=b",
-                                          "@x",
-                                          "\"q\"",
-                                          "a\\b",
-                                          "[x]",
-                                          "#x",
-                                          "a\r\n\tb\v",
-                                          "\x01"
-                                          "f0\x02",
-                                          "50%",
-                                          accents};
+  const std::vector<std::string> texts = {"",     " a ", "a;b", "a,b",        "a=b",        "@x",  "\"q\"",
+                                          "a\\b", "[x]", "#x",  "a\r\n\tb\v", "\001f0\x02", "50%", accents};
   const auto name = [](const char* section, std::size_t i) { return ToQt(section + std::to_string(i)); };
   {
     QSettings toolkit(path, QSettings::IniFormat);
